@@ -1,0 +1,164 @@
+#include "audio/SampleConversion.h"
+
+#include "base/RunTimeError.h"
+
+#include <cstring>
+
+namespace lumora {
+
+namespace {
+
+using Doubles = double __attribute__((vector_size(32)));
+using Masks = std::int64_t __attribute__((vector_size(32)));
+using Longs = std::int32_t __attribute__((vector_size(16)));
+using Shorts = std::int16_t __attribute__((vector_size(8)));
+constexpr std::size_t kLanes = 4;
+
+/// Adding and taking away 1.5 x 2^52 leaves a double of moderate size rounded to a whole number,
+/// half to even, without an instruction that not every processor has.
+constexpr double kRounder = 6755399441055744.0;
+constexpr double kFullScale = 32768.0;
+constexpr double kLowest = -32768.0;
+constexpr double kHighest = 32767.0;
+
+[[gnu::always_inline]] inline void FromShorts(const std::int16_t* in, std::size_t count,
+                                              double* out)
+{
+    for (std::size_t i = 0; i < count; ++i)
+        out[i] = in[i] / kFullScale;
+}
+
+[[gnu::always_inline]] inline void FromBytes(const std::uint8_t* in, std::size_t count, double* out)
+{
+    for (std::size_t i = 0; i < count; ++i)
+        out[i] = (in[i] - 128) / 128.0;
+}
+
+[[gnu::always_inline]] inline Doubles Load(const double* from)
+{
+    Doubles values;
+    std::memcpy(&values, from, sizeof values);
+    return values;
+}
+
+/// Rounds four samples to whole numbers and notes in `outside` which do not fit, a NaN included.
+[[gnu::always_inline]] inline Longs Quantise(Doubles samples, Masks& outside)
+{
+    const Doubles scaled = samples * kFullScale;
+    const Doubles rounded = (scaled + kRounder) - kRounder;
+    outside |= ~((rounded >= kLowest) & (rounded <= kHighest));
+    return __builtin_convertvector(rounded, Longs);
+}
+
+/// One sample the same way.
+[[gnu::always_inline]] inline std::int16_t Quantise(double sample, bool& fits)
+{
+    const double rounded = (sample * kFullScale + kRounder) - kRounder;
+    const bool inside = rounded >= kLowest && rounded <= kHighest;
+    fits = fits && inside;
+    return inside ? static_cast<std::int16_t>(rounded) : std::int16_t{0};
+}
+
+[[gnu::always_inline]] inline bool None(Masks masks)
+{
+    return (masks[0] | masks[1] | masks[2] | masks[3]) == 0;
+}
+
+[[gnu::always_inline]] inline bool ToShorts(const double* in, std::size_t count, std::int16_t* out)
+{
+    Masks outside{};
+    std::size_t i = 0;
+    for (; i + kLanes <= count; i += kLanes) {
+        const Shorts packed = __builtin_convertvector(Quantise(Load(in + i), outside), Shorts);
+        std::memcpy(out + i, &packed, sizeof packed);
+    }
+    bool fits = None(outside);
+    for (; i < count; ++i)
+        out[i] = Quantise(in[i], fits);
+    return fits;
+}
+
+[[gnu::always_inline]] inline bool ToStereoShorts(const double* left, const double* right,
+                                                  std::size_t count, std::int16_t* out)
+{
+    Masks outside{};
+    std::size_t i = 0;
+    for (; i + kLanes <= count; i += kLanes) {
+        const Longs l = Quantise(Load(left + i), outside);
+        const Longs r = Quantise(Load(right + i), outside);
+        // Left in the low half of each pair of shorts: the order of the file.
+        const Longs pairs = (l & 0xFFFF) | (r << 16);
+        std::memcpy(out + 2 * i, &pairs, sizeof pairs);
+    }
+    bool fits = None(outside);
+    for (; i < count; ++i) {
+        out[2 * i] = Quantise(left[i], fits);
+        out[2 * i + 1] = Quantise(right[i], fits);
+    }
+    return fits;
+}
+
+// One source, one copy a width: the bodies above are inlined into functions that may use wider
+// instructions. The formatter would tear the table apart.
+// clang-format off
+void FromShortsBaseline(const std::int16_t* in, std::size_t count, double* out) { FromShorts(in, count, out); }
+void FromBytesBaseline(const std::uint8_t* in, std::size_t count, double* out) { FromBytes(in, count, out); }
+bool ToShortsBaseline(const double* in, std::size_t count, std::int16_t* out) { return ToShorts(in, count, out); }
+bool ToStereoShortsBaseline(const double* left, const double* right, std::size_t count, std::int16_t* out) { return ToStereoShorts(left, right, count, out); }
+constexpr SampleKernels kBaseline{FromShortsBaseline, FromBytesBaseline, ToShortsBaseline, ToStereoShortsBaseline};
+#if defined(__x86_64__)
+[[gnu::target("avx2")]] void FromShortsAvx2(const std::int16_t* in, std::size_t count, double* out) { FromShorts(in, count, out); }
+[[gnu::target("avx2")]] void FromBytesAvx2(const std::uint8_t* in, std::size_t count, double* out) { FromBytes(in, count, out); }
+[[gnu::target("avx2")]] bool ToShortsAvx2(const double* in, std::size_t count, std::int16_t* out) { return ToShorts(in, count, out); }
+[[gnu::target("avx2")]] bool ToStereoShortsAvx2(const double* left, const double* right, std::size_t count, std::int16_t* out) { return ToStereoShorts(left, right, count, out); }
+constexpr SampleKernels kAvx2{FromShortsAvx2, FromBytesAvx2, ToShortsAvx2, ToStereoShortsAvx2};
+[[gnu::target("avx512f")]] void FromShortsAvx512(const std::int16_t* in, std::size_t count, double* out) { FromShorts(in, count, out); }
+[[gnu::target("avx512f")]] void FromBytesAvx512(const std::uint8_t* in, std::size_t count, double* out) { FromBytes(in, count, out); }
+[[gnu::target("avx512f")]] bool ToShortsAvx512(const double* in, std::size_t count, std::int16_t* out) { return ToShorts(in, count, out); }
+[[gnu::target("avx512f")]] bool ToStereoShortsAvx512(const double* left, const double* right, std::size_t count, std::int16_t* out) { return ToStereoShorts(left, right, count, out); }
+constexpr SampleKernels kAvx512{FromShortsAvx512, FromBytesAvx512, ToShortsAvx512, ToStereoShortsAvx512};
+#endif
+// clang-format on
+
+const SampleKernels& Kernels()
+{
+    static const SampleKernels& widest = SampleKernelsFor(WidestVectors());
+    return widest;
+}
+
+} // namespace
+
+const SampleKernels& SampleKernelsFor(VectorWidth width)
+{
+#if defined(__x86_64__)
+    if (width == VectorWidth::Avx512) return kAvx512;
+    if (width == VectorWidth::Avx2) return kAvx2;
+#endif
+    static_cast<void>(width);
+    return kBaseline;
+}
+
+void SamplesFromShorts(std::span<const std::int16_t> shorts, std::span<double> samples)
+{
+    Kernels().from_shorts(shorts.data(), shorts.size(), samples.data());
+}
+
+void SamplesFromBytes(std::span<const std::uint8_t> bytes, std::span<double> samples)
+{
+    Kernels().from_bytes(bytes.data(), bytes.size(), samples.data());
+}
+
+void ShortsFromSamples(std::span<const double> samples, std::span<std::int16_t> shorts)
+{
+    if (!Kernels().to_shorts(samples.data(), samples.size(), shorts.data()))
+        Raise(ErrorNumber::Overflow);
+}
+
+void ShortsFromSamples(std::span<const double> left, std::span<const double> right,
+                       std::span<std::int16_t> shorts)
+{
+    if (!Kernels().to_stereo_shorts(left.data(), right.data(), left.size(), shorts.data()))
+        Raise(ErrorNumber::Overflow);
+}
+
+} // namespace lumora

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "base/VectorWidth.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+/// Between the numbers of a file and samples from -1 to 1.
+namespace lumora {
+
+/// Each value / 32768. Both spans have one length.
+void SamplesFromShorts(std::span<const std::int16_t> shorts, std::span<double> samples);
+
+/// Each (value - 128) / 128. Both spans have one length.
+void SamplesFromBytes(std::span<const std::uint8_t> bytes, std::span<double> samples);
+
+/// Each sample x 32768 to nearest, half to even. No clipping: error 6 for a value outside 16 bits.
+/// `shorts` is as long as `samples`.
+void ShortsFromSamples(std::span<const double> samples, std::span<std::int16_t> shorts);
+
+/// The same for two channels of one length, interleaved left first into `shorts`.
+void ShortsFromSamples(std::span<const double> left, std::span<const double> right,
+                       std::span<std::int16_t> shorts);
+
+/// The kernels behind them, for one width of vectors.
+struct SampleKernels {
+    void (*from_shorts)(const std::int16_t* in, std::size_t count, double* out);
+    void (*from_bytes)(const std::uint8_t* in, std::size_t count, double* out);
+    /// False if a value did not fit; `out` holds unusable numbers then.
+    bool (*to_shorts)(const double* in, std::size_t count, std::int16_t* out);
+    bool (*to_stereo_shorts)(const double* left, const double* right, std::size_t count,
+                             std::int16_t* out);
+};
+const SampleKernels& SampleKernelsFor(VectorWidth width);
+
+} // namespace lumora

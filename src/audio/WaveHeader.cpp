@@ -1,0 +1,141 @@
+#include "audio/WaveChunks.h"
+#include "audio/WaveMessages.h"
+#include "audio/WaveStream.h"
+#include "base/Messages.h"
+#include "base/Numbers.h"
+
+namespace lumora {
+
+using namespace wave_messages;
+
+namespace {
+
+/// Walks the chunks of one file into one record. A step that fails has shown its message and left
+/// its text in the record, on which the walk ends.
+class HeaderWalk {
+public:
+    HeaderWalk(FileNumber file, WaveInfo& info) : file_(file), info_(info) {}
+
+    void Run()
+    {
+        if (ReadRiff()) {
+            while (info_.DataID.empty() && ReadChunk()) {
+            }
+        }
+        if (info_.Message.empty()) CountSamples();
+    }
+
+private:
+    bool ReadRiff()
+    {
+        const ChunkHeader riff = read_cktype(file_, "RIFF");
+        if (Failed(riff.Message)) return false;
+        info_.RiffID = riff.ID;
+        info_.RiffSize = riff.Size;
+        const RiffType wave = find_refftype(file_, "WAVE");
+        if (Failed(wave.Message)) return false;
+        info_.WaveID = wave.ID;
+        return true;
+    }
+
+    bool ReadChunk()
+    {
+        const ChunkHeader chunk = read_cktype(file_, "");
+        if (Failed(chunk.Message)) return false;
+        if (chunk.ID == "fact") return ReadFact(chunk);
+        if (chunk.ID == "data") return NoteData(chunk);
+        if (chunk.ID == "fmt" && !behind_info_) return ReadFormat(chunk);
+        if (chunk.ID == "INFO" && !behind_info_) return PassInfo(chunk);
+        return PassUnknown(chunk);
+    }
+
+    bool ReadFact(const ChunkHeader& chunk)
+    {
+        info_.FactID = chunk.ID;
+        info_.FactSize = chunk.Size;
+        FactFields fact;
+        read_factck(file_, chunk, fact);
+        info_.TotalSamples = fact.Samples; // until the data chunk tells the truth
+        return !Failed(fact.Message);
+    }
+
+    bool ReadFormat(const ChunkHeader& chunk)
+    {
+        info_.FmtID = chunk.ID;
+        info_.FmtSize = chunk.Size;
+        WaveFormatFields format;
+        read_waveformat(file_, chunk, format);
+        if (Failed(format.Message)) return false;
+        info_.wFormatTag = format.wFormatTag;
+        info_.nChannels = format.nChannels;
+        info_.nSamplesPerSec = format.nSamplesPerSec;
+        info_.nAvgBytesPerSec = format.nAvgBytesPerSec;
+        info_.nBlockAlign = format.nBlockAlign;
+        info_.nBitsPerSample = format.nBitsPerSample;
+        info_.cbExtra = format.cbExtra;
+        return true;
+    }
+
+    /// Behind an INFO chunk only fact and data are known.
+    bool PassInfo(const ChunkHeader& chunk)
+    {
+        behind_info_ = true;
+        SeekTo(file_, FilePosition(file_) + chunk.Size);
+        return true;
+    }
+
+    bool NoteData(const ChunkHeader& chunk)
+    {
+        info_.DataID = chunk.ID;
+        info_.DataSize = chunk.Size;
+        if (info_.FmtID.empty()) {
+            info_.Message = kDataBeforeFormat;
+            ShowFileError(kWavread, kDataBeforeFormat);
+            return false;
+        }
+        info_.DataStart = CLng(FilePosition(file_));
+        info_.DataEnd = CLng(std::int64_t{info_.DataStart} + info_.DataSize - 1);
+        return true;
+    }
+
+    /// "SET_CUR" is none of fseek's origins: a chunk that nobody knows ends the reading with
+    /// fseek's message and error 63, so that no such file gets half read.
+    bool PassUnknown(const ChunkHeader& chunk)
+    {
+        if (fseek(file_, chunk.Size, "SET_CUR").Status == 0) return true;
+        info_.Message = kBadChunkSize;
+        ShowFileError(kWavread, kBadChunkSize);
+        return false;
+    }
+
+    void CountSamples()
+    {
+        const std::int64_t bits = info_.nBitsPerSample == 0 ? 16 : info_.nBitsPerSample;
+        const std::int64_t bytes = std::int64_t{info_.DataEnd} - info_.DataStart + 1;
+        info_.TotalSamples = CLng(Int(
+            Divide(static_cast<double>(bytes * 8), static_cast<double>(bits * info_.nChannels))));
+    }
+
+    bool Failed(const std::string& message)
+    {
+        info_.Message = message;
+        return !message.empty();
+    }
+
+    FileNumber file_;
+    WaveInfo& info_;
+    bool behind_info_ = false;
+};
+
+} // namespace
+
+WaveInfo ReadWaveInfo(const std::string& FileName)
+{
+    WaveInfo info;
+    OpenFile file(open_wav(FileName));
+    if (file.Failed()) return info;
+    HeaderWalk(file.Number(), info).Run();
+    return info;
+}
+
+} // namespace lumora

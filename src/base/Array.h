@@ -1,0 +1,117 @@
+#pragma once
+
+#include "base/RunTimeError.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <new>
+#include <span>
+#include <stdexcept>
+#include <utility>
+#include <vector>
+
+namespace lumora {
+
+/// Lowest and highest index of one dimension, both included.
+struct Bounds {
+    std::int64_t lower = 1;
+    std::int64_t upper = 0;
+
+    std::int64_t Count() const { return upper - lower + 1; }
+    bool Holds(std::int64_t i) const { return i >= lower && i <= upper; }
+    bool operator==(const Bounds&) const = default;
+};
+
+/// The plain array of the whole system: one or two dimensions, lower bounds of choice (1 unless
+/// told), column-major. Every access is checked: error 9. A fresh or erased array has no
+/// dimension, and asking it for a bound or an element is error 9 as well.
+template <class T> class Array {
+public:
+    Array() = default;
+    /// One dimension, 1..count, zero-filled. Error 9 if count is below 1.
+    explicit Array(std::int64_t count) { ReDim({1, count}); }
+    /// Two dimensions, 1..rows by 1..columns, zero-filled. Error 9 if either is below 1.
+    Array(std::int64_t rows, std::int64_t columns) { ReDim({1, rows}, {1, columns}); }
+
+    /// New shape, zero-filled; earlier contents are gone. Errors 9 (empty shape) and 7.
+    void ReDim(Bounds first)
+    {
+        Reshape(1, first, {1, 1});
+        std::fill(store_.begin(), store_.end(), T{});
+    }
+    void ReDim(Bounds first, Bounds second)
+    {
+        Reshape(2, first, second);
+        std::fill(store_.begin(), store_.end(), T{});
+    }
+    /// New shape with whatever contents: for a caller who writes every element anyway. Memory
+    /// that is large enough is used again, so a loop that keeps its array allocates once.
+    void ReDimForOverwrite(Bounds first) { Reshape(1, first, {1, 1}); }
+    void ReDimForOverwrite(Bounds first, Bounds second) { Reshape(2, first, second); }
+
+    /// Back to no dimension; the memory is released.
+    void Erase() { *this = Array{}; }
+
+    /// 0, 1 or 2.
+    int Dimensions() const { return dimensions_; }
+
+    std::int64_t LBound(int dimension = 1) const { return At(dimension).lower; }
+    std::int64_t UBound(int dimension = 1) const { return At(dimension).upper; }
+
+    T& operator()(std::int64_t i) { return store_[Place(i)]; }
+    const T& operator()(std::int64_t i) const { return store_[Place(i)]; }
+    T& operator()(std::int64_t i, std::int64_t j) { return store_[Place(i, j)]; }
+    const T& operator()(std::int64_t i, std::int64_t j) const { return store_[Place(i, j)]; }
+
+    /// All elements in column-major order, unchecked: for kernels that check at their door.
+    std::span<T> Span() { return store_; }
+    std::span<const T> Span() const { return store_; }
+
+    bool operator==(const Array&) const = default;
+
+private:
+    void Reshape(int dimensions, Bounds first, Bounds second)
+    {
+        if (first.Count() < 1 || second.Count() < 1) Raise(ErrorNumber::Subscript);
+        std::int64_t size = 0;
+        if (__builtin_mul_overflow(first.Count(), second.Count(), &size))
+            Raise(ErrorNumber::OutOfMemory);
+        try {
+            store_.resize(static_cast<std::size_t>(size));
+        } catch (const std::bad_alloc&) {
+            Raise(ErrorNumber::OutOfMemory);
+        } catch (const std::length_error&) {
+            Raise(ErrorNumber::OutOfMemory);
+        }
+        dimensions_ = dimensions;
+        bounds_[0] = first;
+        bounds_[1] = second;
+    }
+
+    const Bounds& At(int dimension) const
+    {
+        if (dimension < 1 || dimension > dimensions_) Raise(ErrorNumber::Subscript);
+        return bounds_[dimension - 1];
+    }
+
+    std::size_t Place(std::int64_t i) const
+    {
+        if (dimensions_ != 1 || !bounds_[0].Holds(i)) Raise(ErrorNumber::Subscript);
+        return static_cast<std::size_t>(i - bounds_[0].lower);
+    }
+
+    std::size_t Place(std::int64_t i, std::int64_t j) const
+    {
+        if (dimensions_ != 2 || !bounds_[0].Holds(i) || !bounds_[1].Holds(j))
+            Raise(ErrorNumber::Subscript);
+        return static_cast<std::size_t>((j - bounds_[1].lower) * bounds_[0].Count() +
+                                        (i - bounds_[0].lower));
+    }
+
+    int dimensions_ = 0;
+    Bounds bounds_[2];
+    std::vector<T> store_;
+};
+
+} // namespace lumora

@@ -1,0 +1,183 @@
+#include "engine/BlockPipeline.h"
+
+#include "audio/SampleConversion.h"
+#include "audio/WaveStream.h"
+#include "base/Numbers.h"
+#include "base/Paths.h"
+#include "engine/BlockPlan.h"
+#include "engine/BlockResampler.h"
+#include "engine/ClsWsolaQuick.h"
+
+#include <array>
+#include <optional>
+#include <span>
+
+namespace lumora {
+
+namespace {
+
+constexpr std::size_t kMostChannels = 2;
+
+/// One channel's way through a block.
+struct ChannelLine {
+    ClsWsolaQuick core;
+    std::vector<double> frame;     ///< BlockLen samples of the input
+    std::vector<double> resampled; ///< BlockLen samples of the result
+};
+
+/// Buffers and state of one run. Channels are data: mono and stereo take the same road.
+class Pipeline {
+public:
+    Pipeline(const PitchRun& run, BlockResampler& resampler, const RunHooks& hooks)
+        : run_(run),
+          resampler_(resampler),
+          hooks_(hooks),
+          channels_(static_cast<std::size_t>(run.Channels))
+    {
+    }
+
+    void Run()
+    {
+        const WaveInfo info = ReadWaveInfo(run_.InFileName);
+        rate_hz_ = info.nSamplesPerSec;
+        plan_ = BlockPlan::ForRate(rate_hz_);
+        chunk_count_ = CInt(DivideWhole(info.TotalSamples, plan_.ChunkLen));
+        scale_ = Divide(1.0, run_.Q_P == 0.0 ? 1.0 : run_.Q_P);
+        StartProgress();
+        SetUpLines();
+        for (std::int16_t c = 1; c <= chunk_count_; ++c) {
+            const std::int64_t before = std::int64_t{c - 1} * plan_.ChunkLen;
+            Transform(before + 1, before + plan_.ChunkLen);
+            Step(c);
+        }
+        Transform(std::int64_t{chunk_count_} * plan_.ChunkLen + 1, {});
+        EndProgress();
+    }
+
+private:
+    void SetUpLines()
+    {
+        for (std::size_t channel = 0; channel < channels_; ++channel) {
+            ChannelLine& line = lines_[channel];
+            line.core.SetUp(plan_.BlockLen, plan_.CoarseStep, kExtraLen);
+            line.frame.assign(static_cast<std::size_t>(plan_.BlockLen), 0.0);
+            line.resampled.assign(static_cast<std::size_t>(plan_.BlockLen), 0.0);
+        }
+    }
+
+    /// Reads a range of samples, runs its whole blocks and writes them. Only the tail of a file is
+    /// not made of whole blocks; what is left over is dropped.
+    void Transform(std::int64_t first, std::optional<std::int64_t> last)
+    {
+        ReadWaveSamples(run_.InFileName, samples_, first, last);
+        const bool stereo = channels_ == 2;
+        if (samples_.Dimensions() != (stereo ? 2 : 1)) Raise(ErrorNumber::Subscript);
+        const std::int64_t length = samples_.UBound(stereo ? 2 : 1);
+        const std::int64_t blocks = length / plan_.BlockLen;
+        if (blocks == 0) {
+            // Ending well with nothing written would pass an older file off as the result.
+            if (!written_) Raise(ErrorNumber::Subscript, run_.InFileName);
+            return;
+        }
+        ShapeOutput(blocks * plan_.BlockLen);
+        for (std::int64_t j = 0; j < blocks; ++j)
+            TransformBlock(j);
+        Write();
+    }
+
+    void ShapeOutput(std::int64_t length)
+    {
+        if (channels_ == 2)
+            output_.ReDimForOverwrite({1, 2}, {1, length});
+        else
+            output_.ReDimForOverwrite({1, length});
+    }
+
+    void TransformBlock(std::int64_t j)
+    {
+        const std::size_t block_values = static_cast<std::size_t>(plan_.BlockLen) * channels_;
+        const std::size_t start = static_cast<std::size_t>(j) * block_values;
+        const std::span<const double> block = samples_.Span().subspan(start, block_values);
+        for (std::size_t channel = 0; channel < channels_; ++channel)
+            TransformChannel(lines_[channel], block.subspan(channel));
+        const std::span<std::int16_t> shorts = output_.Span().subspan(start, block_values);
+        if (channels_ == 2)
+            ShortsFromSamples(lines_[0].resampled, lines_[1].resampled, shorts);
+        else
+            ShortsFromSamples(lines_[0].resampled, shorts);
+    }
+
+    /// `interleaved` begins with the channel's first sample.
+    void TransformChannel(ChannelLine& line, std::span<const double> interleaved)
+    {
+        std::span<const double> frame = interleaved;
+        if (channels_ == 2) {
+            kernels_.take_every_other(interleaved.data(), line.frame.size(), line.frame.data());
+            frame = line.frame;
+        }
+        const std::span<const double> stretched = line.core.Stretch(frame, scale_);
+        const double rate = plan_.BlockLen / static_cast<double>(stretched.size());
+        resampler_.Resample(stretched, rate, line.resampled);
+    }
+
+    void Write()
+    {
+        if (written_)
+            AppendWave(output_, run_.OutFileName);
+        else
+            WriteNewWave(output_, rate_hz_, run_.OutFileName);
+        written_ = true;
+    }
+
+    void StartProgress()
+    {
+        if (hooks_.Bar) {
+            hooks_.Bar->Value = 0;
+            hooks_.Bar->Min = 0;
+            hooks_.Bar->Max = chunk_count_ + 1;
+        }
+        hooks_.Pump();
+        hooks_.Publish(1);
+    }
+
+    void Step(std::int16_t chunk)
+    {
+        if (hooks_.Bar) ++hooks_.Bar->Value;
+        hooks_.Pump();
+        hooks_.Publish(CInt(chunk * 100.0 / (chunk_count_ + 1)));
+    }
+
+    void EndProgress()
+    {
+        hooks_.Publish(100);
+        if (hooks_.Bar) hooks_.Bar->Value = hooks_.Bar->Max;
+        hooks_.Pump();
+    }
+
+    const PitchRun& run_;
+    BlockResampler& resampler_;
+    const RunHooks& hooks_;
+    const EngineKernels& kernels_ = EngineKernelsFor(WidestVectors());
+
+    std::size_t channels_;
+    std::int32_t rate_hz_ = 0;
+    BlockPlan plan_;
+    std::int16_t chunk_count_ = 0;
+    double scale_ = 1.0;
+    bool written_ = false;
+
+    std::array<ChannelLine, kMostChannels> lines_;
+    Array<double> samples_;
+    Array<std::int16_t> output_;
+};
+
+} // namespace
+
+void RunBlockPipeline(const PitchRun& run, BlockResampler& resampler, const RunHooks& hooks)
+{
+    if (run.Channels < 1 || run.Channels > int{kMostChannels}) Raise(ErrorNumber::InvalidCall);
+    if (run.InFileName.empty() || !FileExists(run.InFileName)) return;
+    Pipeline(run, resampler, hooks).Run();
+}
+
+} // namespace lumora

@@ -1,0 +1,133 @@
+#include "engine/EngineKernels.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace lumora {
+
+namespace {
+
+using Two = double __attribute__((vector_size(16)));
+using Four = double __attribute__((vector_size(32)));
+using Eight = double __attribute__((vector_size(64)));
+
+template <class V> [[gnu::always_inline]] inline V Load(const double* from)
+{
+    V values;
+    std::memcpy(&values, from, sizeof values);
+    return values;
+}
+
+/// One pass over the target for N vectors of shifts side by side. The sums of the first window ride
+/// along in four more lanes (x, y, x squared, y squared), which hides them in the same loop.
+template <class V, std::size_t N>
+[[gnu::always_inline]] inline void
+CorrelateGroup(const double* x, const double* y, std::size_t count, double* cross, WindowSums& sums)
+{
+    constexpr std::size_t kLanes = sizeof(V) / sizeof(double);
+    V total[N] = {};
+    Four window_total{};
+    for (std::size_t i = 0; i < count; ++i) {
+        for (std::size_t n = 0; n < N; ++n)
+            total[n] += y[i] * Load<V>(x + i + n * kLanes);
+        const Four values{x[i], y[i], x[i], y[i]};
+        const Four factors{1.0, 1.0, x[i], y[i]};
+        window_total += values * factors;
+    }
+    std::memcpy(cross, total, sizeof total);
+    sums = {window_total[0], window_total[1], window_total[2], window_total[3]};
+}
+
+/// Three groups at a time: as many sums as the sixteen narrowest registers hold.
+template <class V>
+[[gnu::always_inline]] inline void Correlate(const double* x, const double* y, std::size_t count,
+                                             std::size_t shifts, double* cross, WindowSums& sums)
+{
+    constexpr std::size_t kVectors = kShiftGroup * sizeof(double) / sizeof(V);
+    WindowSums later; // only those at shift 0 are asked for
+    for (std::size_t k = 0; k < shifts; k += 3 * kShiftGroup) {
+        WindowSums& here = k == 0 ? sums : later;
+        const std::size_t left = shifts - k;
+        if (left > 2 * kShiftGroup)
+            CorrelateGroup<V, 3 * kVectors>(x + k, y, count, cross + k, here);
+        else if (left > kShiftGroup)
+            CorrelateGroup<V, 2 * kVectors>(x + k, y, count, cross + k, here);
+        else
+            CorrelateGroup<V, kVectors>(x + k, y, count, cross + k, here);
+    }
+}
+
+[[gnu::always_inline]] inline void OverlapAddLoop(double* __restrict out,
+                                                  const double* __restrict in,
+                                                  const double* __restrict window,
+                                                  std::size_t count)
+{
+    for (std::size_t i = 0; i < count; ++i)
+        out[i] += in[i] * window[i];
+}
+
+/// Neighbours lie together in memory, so one load brings both ends of an interval.
+[[gnu::always_inline]] inline void InterpolateLoop(const double* s, const std::int32_t* index,
+                                                   const double* fraction, std::size_t count,
+                                                   double* out)
+{
+    std::size_t j = 0;
+    for (; j + 4 <= count; j += 4) {
+        const Two a = Load<Two>(s + index[j]);
+        const Two b = Load<Two>(s + index[j + 1]);
+        const Two c = Load<Two>(s + index[j + 2]);
+        const Two d = Load<Two>(s + index[j + 3]);
+        const Four low = __builtin_shufflevector(__builtin_shufflevector(a, b, 0, 2),
+                                                 __builtin_shufflevector(c, d, 0, 2), 0, 1, 2, 3);
+        const Four high = __builtin_shufflevector(__builtin_shufflevector(a, b, 1, 3),
+                                                  __builtin_shufflevector(c, d, 1, 3), 0, 1, 2, 3);
+        const Four value = (high - low) * Load<Four>(fraction + j) + low;
+        std::memcpy(out + j, &value, sizeof value);
+    }
+    for (; j < count; ++j) {
+        const double* interval = s + index[j];
+        out[j] = (interval[1] - interval[0]) * fraction[j] + interval[0];
+    }
+}
+
+[[gnu::always_inline]] inline void TakeEveryOtherLoop(const double* __restrict interleaved,
+                                                      std::size_t count, double* __restrict frame)
+{
+    for (std::size_t i = 0; i < count; ++i)
+        frame[i] = interleaved[2 * i];
+}
+
+// One source, one copy a width. The formatter would tear the table apart.
+// clang-format off
+void CorrelateBaseline(const double* x, const double* y, std::size_t count, std::size_t shifts, double* cross, WindowSums& sums) { Correlate<Four>(x, y, count, shifts, cross, sums); }
+void OverlapAddBaseline(double* out, const double* in, const double* window, std::size_t count) { OverlapAddLoop(out, in, window, count); }
+void InterpolateBaseline(const double* s, const std::int32_t* index, const double* fraction, std::size_t count, double* out) { InterpolateLoop(s, index, fraction, count, out); }
+void TakeEveryOtherBaseline(const double* interleaved, std::size_t count, double* frame) { TakeEveryOtherLoop(interleaved, count, frame); }
+constexpr EngineKernels kBaseline{CorrelateBaseline, OverlapAddBaseline, InterpolateBaseline, TakeEveryOtherBaseline};
+#if defined(__x86_64__)
+[[gnu::target("avx2")]] void CorrelateAvx2(const double* x, const double* y, std::size_t count, std::size_t shifts, double* cross, WindowSums& sums) { Correlate<Four>(x, y, count, shifts, cross, sums); }
+[[gnu::target("avx2")]] void OverlapAddAvx2(double* out, const double* in, const double* window, std::size_t count) { OverlapAddLoop(out, in, window, count); }
+[[gnu::target("avx2")]] void InterpolateAvx2(const double* s, const std::int32_t* index, const double* fraction, std::size_t count, double* out) { InterpolateLoop(s, index, fraction, count, out); }
+[[gnu::target("avx2")]] void TakeEveryOtherAvx2(const double* interleaved, std::size_t count, double* frame) { TakeEveryOtherLoop(interleaved, count, frame); }
+constexpr EngineKernels kAvx2{CorrelateAvx2, OverlapAddAvx2, InterpolateAvx2, TakeEveryOtherAvx2};
+[[gnu::target("avx512f")]] void CorrelateAvx512(const double* x, const double* y, std::size_t count, std::size_t shifts, double* cross, WindowSums& sums) { Correlate<Eight>(x, y, count, shifts, cross, sums); }
+[[gnu::target("avx512f")]] void OverlapAddAvx512(double* out, const double* in, const double* window, std::size_t count) { OverlapAddLoop(out, in, window, count); }
+[[gnu::target("avx512f")]] void InterpolateAvx512(const double* s, const std::int32_t* index, const double* fraction, std::size_t count, double* out) { InterpolateLoop(s, index, fraction, count, out); }
+[[gnu::target("avx512f")]] void TakeEveryOtherAvx512(const double* interleaved, std::size_t count, double* frame) { TakeEveryOtherLoop(interleaved, count, frame); }
+constexpr EngineKernels kAvx512{CorrelateAvx512, OverlapAddAvx512, InterpolateAvx512, TakeEveryOtherAvx512};
+#endif
+// clang-format on
+
+} // namespace
+
+const EngineKernels& EngineKernelsFor(VectorWidth width)
+{
+#if defined(__x86_64__)
+    if (width == VectorWidth::Avx512) return kAvx512;
+    if (width == VectorWidth::Avx2) return kAvx2;
+#endif
+    static_cast<void>(width);
+    return kBaseline;
+}
+
+} // namespace lumora
