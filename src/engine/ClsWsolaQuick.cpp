@@ -2,7 +2,6 @@
 
 #include "base/Cosine.h"
 #include "base/Numbers.h"
-#include "engine/SimilaritySearch.h"
 
 #include <algorithm>
 
@@ -51,7 +50,10 @@ constexpr std::size_t kHopsBetweenMoves = 6;
 
 } // namespace
 
-ClsWsolaQuick::ClsWsolaQuick(VectorWidth width) : kernels_(&EngineKernelsFor(width)) {}
+ClsWsolaQuick::ClsWsolaQuick(VectorWidth width)
+    : kernels_(&EngineKernelsFor(width)), search_(width)
+{
+}
 
 void ClsWsolaQuick::SetUp(const std::int16_t& N, const std::int16_t& S, const std::int16_t& X)
 {
@@ -83,14 +85,15 @@ void ClsWsolaQuick::SetUp(const std::int16_t& N, const std::int16_t& S, const st
     CoarseIn.assign(Size(coarse_in_len_) + kShiftGroup, 0.0);
     CoarseTarget.assign(Size(coarse_target_len), 0.0);
     Window = HannWindow(FrameLen);
-    cross_.assign(PaddedShifts(most_shifts), 0.0);
+    search_.SetUp(most_shifts, Size(TargetLen));
 }
 
 void ClsWsolaQuick::Destruct()
 {
+    search_.Release();
     InBuf.Release();
     OutBuf.Release();
-    for (std::vector<double>* array : {&Target, &CoarseIn, &CoarseTarget, &Window, &cross_})
+    for (std::vector<double>* array : {&Target, &CoarseIn, &CoarseTarget, &Window})
         *array = {};
 }
 
@@ -204,8 +207,8 @@ std::int16_t ClsWsolaQuick::CoarseMatch()
     const int last_shift = coarse_in_len_ - static_cast<int>(CoarseTarget.size());
     if (last_shift < 0) Raise(ErrorNumber::Subscript);
     const std::size_t shift =
-        BestShift(*kernels_, CoarseIn.data(), CoarseTarget.data(), CoarseTarget.size(),
-                  static_cast<std::size_t>(last_shift) + 1, EnergyWindow::Exact, cross_);
+        search_.BestShift(CoarseIn.data(), CoarseTarget.data(), CoarseTarget.size(),
+                          static_cast<std::size_t>(last_shift) + 1, EnergyWindow::Exact);
     return CInt(shift + 1);
 }
 
@@ -219,8 +222,8 @@ std::int16_t ClsWsolaQuick::FineMatch(std::int16_t coarse_start)
     MaxOf(lo, hi, last); // Lo itself is always tried
     CheckRange(lo, last + TargetLen - 1, InLen);
     const std::size_t shift =
-        BestShift(*kernels_, InBuf.Data() + Place(lo), Target.data(), Target.size(),
-                  static_cast<std::size_t>(last - lo) + 1, EnergyWindow::OneAhead, cross_);
+        search_.BestShift(InBuf.Data() + Place(lo), Target.data(), Target.size(),
+                          static_cast<std::size_t>(last - lo) + 1, EnergyWindow::OneAhead);
     return CInt(lo + static_cast<int>(shift) + BlockLen);
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/Array.h"
 #include "engine/EngineKernels.h"
+#include "engine/SimilaritySearch.h"
 #include "engine/SlidingBuffer.h"
 
 #include <cstdint>
@@ -68,6 +69,7 @@ private:
     void MoveTo(std::int16_t read_pos);
 
     const EngineKernels* kernels_;
+    SimilaritySearch search_;
 
     std::int16_t BlockLen = 0;    ///< N: samples in, hop of the frames, half a frame
     std::int16_t CoarseStep = 0;  ///< S
@@ -92,7 +94,6 @@ private:
     std::vector<double> CoarseTarget; ///< every S-th sample of Target
     std::vector<double> Window;       ///< Hann
     std::int16_t coarse_in_len_ = 0;  ///< CoarseIn without the group that the kernels read ahead
-    std::vector<double> cross_;       ///< scratch of the search
 };
 
 } // namespace lumora

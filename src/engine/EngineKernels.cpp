@@ -1,6 +1,6 @@
 #include "engine/EngineKernels.h"
 
-#include <algorithm>
+#include <cmath>
 #include <cstring>
 
 namespace lumora {
@@ -19,23 +19,24 @@ template <class V> [[gnu::always_inline]] inline V Load(const double* from)
 }
 
 /// One pass over the target for N vectors of shifts side by side. The sums of the first window ride
-/// along in four more lanes (x, y, x squared, y squared), which hides them in the same loop.
+/// along (x and y, then their squares), which hides them in the same loop.
 template <class V, std::size_t N>
 [[gnu::always_inline]] inline void
 CorrelateGroup(const double* x, const double* y, std::size_t count, double* cross, WindowSums& sums)
 {
     constexpr std::size_t kLanes = sizeof(V) / sizeof(double);
     V total[N] = {};
-    Four window_total{};
+    Two plain{};
+    Two squares{};
     for (std::size_t i = 0; i < count; ++i) {
         for (std::size_t n = 0; n < N; ++n)
             total[n] += y[i] * Load<V>(x + i + n * kLanes);
-        const Four values{x[i], y[i], x[i], y[i]};
-        const Four factors{1.0, 1.0, x[i], y[i]};
-        window_total += values * factors;
+        const Two values{x[i], y[i]};
+        plain += values;
+        squares += values * values;
     }
     std::memcpy(cross, total, sizeof total);
-    sums = {window_total[0], window_total[1], window_total[2], window_total[3]};
+    sums = {plain[0], plain[1], squares[0], squares[1]};
 }
 
 /// Three groups at a time: as many sums as the sixteen narrowest registers hold.
@@ -54,6 +55,22 @@ template <class V>
             CorrelateGroup<V, 2 * kVectors>(x + k, y, count, cross + k, here);
         else
             CorrelateGroup<V, kVectors>(x + k, y, count, cross + k, here);
+    }
+}
+
+/// Four shifts at a time; a window without variance correlates 0.0 in place of whatever the
+/// quotient gives.
+[[gnu::always_inline]] inline void CoefficientsLoop(const double* __restrict sum_xx,
+                                                    const double* __restrict mean_x,
+                                                    double* __restrict cross, std::size_t shifts,
+                                                    const TargetMoments& target)
+{
+    for (std::size_t k = 0; k < shifts; ++k) {
+        const double product =
+            (sum_xx[k] - target.points * (mean_x[k] * mean_x[k])) * target.variance;
+        const double quotient =
+            (cross[k] - target.points * mean_x[k] * target.mean) / std::sqrt(product);
+        cross[k] = product <= kNoVariance ? 0.0 : quotient;
     }
 }
 
@@ -99,22 +116,25 @@ template <class V>
 
 // One source, one copy a width. The formatter would tear the table apart.
 // clang-format off
-void CorrelateBaseline(const double* x, const double* y, std::size_t count, std::size_t shifts, double* cross, WindowSums& sums) { Correlate<Four>(x, y, count, shifts, cross, sums); }
+void CorrelateBaseline(const double* x, const double* y, std::size_t count, std::size_t shifts, double* cross, WindowSums& sums) { Correlate<Two>(x, y, count, shifts, cross, sums); }
+void CoefficientsBaseline(const double* sum_xx, const double* mean_x, double* cross, std::size_t shifts, const TargetMoments& target) { CoefficientsLoop(sum_xx, mean_x, cross, shifts, target); }
 void OverlapAddBaseline(double* out, const double* in, const double* window, std::size_t count) { OverlapAddLoop(out, in, window, count); }
 void InterpolateBaseline(const double* s, const std::int32_t* index, const double* fraction, std::size_t count, double* out) { InterpolateLoop(s, index, fraction, count, out); }
 void TakeEveryOtherBaseline(const double* interleaved, std::size_t count, double* frame) { TakeEveryOtherLoop(interleaved, count, frame); }
-constexpr EngineKernels kBaseline{CorrelateBaseline, OverlapAddBaseline, InterpolateBaseline, TakeEveryOtherBaseline};
+constexpr EngineKernels kBaseline{CorrelateBaseline, CoefficientsBaseline, OverlapAddBaseline, InterpolateBaseline, TakeEveryOtherBaseline};
 #if defined(__x86_64__)
 [[gnu::target("avx2")]] void CorrelateAvx2(const double* x, const double* y, std::size_t count, std::size_t shifts, double* cross, WindowSums& sums) { Correlate<Four>(x, y, count, shifts, cross, sums); }
+[[gnu::target("avx2")]] void CoefficientsAvx2(const double* sum_xx, const double* mean_x, double* cross, std::size_t shifts, const TargetMoments& target) { CoefficientsLoop(sum_xx, mean_x, cross, shifts, target); }
 [[gnu::target("avx2")]] void OverlapAddAvx2(double* out, const double* in, const double* window, std::size_t count) { OverlapAddLoop(out, in, window, count); }
 [[gnu::target("avx2")]] void InterpolateAvx2(const double* s, const std::int32_t* index, const double* fraction, std::size_t count, double* out) { InterpolateLoop(s, index, fraction, count, out); }
 [[gnu::target("avx2")]] void TakeEveryOtherAvx2(const double* interleaved, std::size_t count, double* frame) { TakeEveryOtherLoop(interleaved, count, frame); }
-constexpr EngineKernels kAvx2{CorrelateAvx2, OverlapAddAvx2, InterpolateAvx2, TakeEveryOtherAvx2};
+constexpr EngineKernels kAvx2{CorrelateAvx2, CoefficientsAvx2, OverlapAddAvx2, InterpolateAvx2, TakeEveryOtherAvx2};
 [[gnu::target("avx512f")]] void CorrelateAvx512(const double* x, const double* y, std::size_t count, std::size_t shifts, double* cross, WindowSums& sums) { Correlate<Eight>(x, y, count, shifts, cross, sums); }
+[[gnu::target("avx512f")]] void CoefficientsAvx512(const double* sum_xx, const double* mean_x, double* cross, std::size_t shifts, const TargetMoments& target) { CoefficientsLoop(sum_xx, mean_x, cross, shifts, target); }
 [[gnu::target("avx512f")]] void OverlapAddAvx512(double* out, const double* in, const double* window, std::size_t count) { OverlapAddLoop(out, in, window, count); }
 [[gnu::target("avx512f")]] void InterpolateAvx512(const double* s, const std::int32_t* index, const double* fraction, std::size_t count, double* out) { InterpolateLoop(s, index, fraction, count, out); }
 [[gnu::target("avx512f")]] void TakeEveryOtherAvx512(const double* interleaved, std::size_t count, double* frame) { TakeEveryOtherLoop(interleaved, count, frame); }
-constexpr EngineKernels kAvx512{CorrelateAvx512, OverlapAddAvx512, InterpolateAvx512, TakeEveryOtherAvx512};
+constexpr EngineKernels kAvx512{CorrelateAvx512, CoefficientsAvx512, OverlapAddAvx512, InterpolateAvx512, TakeEveryOtherAvx512};
 #endif
 // clang-format on
 

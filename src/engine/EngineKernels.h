@@ -15,6 +15,17 @@ struct WindowSums {
     double yy = 0.0;
 };
 
+/// What a search knows of its target: points in a window, their mean, and their sum of squares
+/// about the mean.
+struct TargetMoments {
+    double points = 0.0;
+    double mean = 0.0;
+    double variance = 0.0;
+};
+
+/// A product of variances up to here is taken for silence.
+inline constexpr double kNoVariance = 1e-16;
+
 /// Shifts are worked on in groups of this many.
 inline constexpr std::size_t kShiftGroup = 8;
 /// `shifts`, filled up to whole groups.
@@ -31,6 +42,11 @@ struct EngineKernels {
     /// count + PaddedShifts(shifts) - 2, and `cross` must hold PaddedShifts(shifts).
     void (*correlate)(const double* x, const double* y, std::size_t count, std::size_t shifts,
                       double* cross, WindowSums& sums);
+
+    /// Pearson's coefficient of each shift k from its sum of squares, its mean and cross[k], which
+    /// it replaces; 0.0 where the product of the variances is at most kNoVariance.
+    void (*coefficients)(const double* sum_xx, const double* mean_x, double* cross,
+                         std::size_t shifts, const TargetMoments& target);
 
     /// out[i] += in[i] * window[i]. The arrays do not overlap.
     void (*overlap_add)(double* out, const double* in, const double* window, std::size_t count);

@@ -1,62 +1,67 @@
 #include "engine/SimilaritySearch.h"
 
-#include <cmath>
+#include <algorithm>
 
 namespace lumora {
 
-namespace {
+SimilaritySearch::SimilaritySearch(VectorWidth width)
+    : kernels_(&EngineKernelsFor(width)), short_kernels_(ShortKernelsFor(width))
+{
+}
 
-/// Below this a product of variances is taken for silence.
-constexpr double kNoVariance = 1e-16;
+void SimilaritySearch::SetUp(std::size_t most_shifts, std::size_t most_points)
+{
+    const std::size_t padded_points = most_points + ShortKernels::kGroup;
+    short_x_.assign(padded_points + PaddedShifts(most_shifts), 0);
+    short_y_.assign(padded_points, 0);
+    for (std::vector<double>* scratch : {&cross_, &sum_xx_, &mean_x_})
+        scratch->assign(PaddedShifts(most_shifts), 0.0);
+}
 
-/// Correlation of windows of one target, from sums that the search carries on.
-struct Correlation {
-    double points; ///< in a window
-    double mean_y;
-    double variance_y;
+void SimilaritySearch::Release()
+{
+    cross_ = sum_xx_ = mean_x_ = {};
+    short_x_ = short_y_ = {};
+}
 
-    Correlation(std::size_t count, const WindowSums& sums)
-        : points(static_cast<double>(count)),
-          mean_y(sums.y / points),
-          variance_y(sums.yy - points * (mean_y * mean_y))
-    {
+void SimilaritySearch::Correlate(const double* x, const double* y, std::size_t count,
+                                 std::size_t shifts, WindowSums& sums)
+{
+    if (short_kernels_ && short_kernels_->to_exact_shorts(y, count, short_y_.data()) &&
+        short_kernels_->to_exact_shorts(x, count + shifts - 1, short_x_.data())) {
+        std::fill_n(short_y_.begin() + static_cast<std::ptrdiff_t>(count), ShortKernels::kGroup,
+                    std::int16_t{0});
+        short_kernels_->correlate(short_x_.data(), short_y_.data(), count, shifts, cross_.data(),
+                                  sums);
+    } else {
+        kernels_->correlate(x, y, count, shifts, cross_.data(), sums);
     }
+}
 
-    double operator()(double sum_xx, double mean_x, double sum_xy) const
-    {
-        const double product = (sum_xx - points * (mean_x * mean_x)) * variance_y;
-        if (product <= kNoVariance) return 0.0;
-        return (sum_xy - points * mean_x * mean_y) / std::sqrt(product);
-    }
-};
-
-} // namespace
-
-std::size_t BestShift(const EngineKernels& kernels, const double* x, const double* y,
-                      std::size_t count, std::size_t shifts, EnergyWindow energy_window,
-                      std::span<double> cross)
+std::size_t SimilaritySearch::BestShift(const double* x, const double* y, std::size_t count,
+                                        std::size_t shifts, EnergyWindow energy_window)
 {
     WindowSums sums;
-    kernels.correlate(x, y, count, shifts, cross.data(), sums);
+    Correlate(x, y, count, shifts, sums);
 
-    const Correlation correlation(count, sums);
-    double sum_xx = sums.xx;
-    double mean_x = sums.x / correlation.points;
-    double best = correlation(sum_xx, mean_x, cross[0]);
-    std::size_t best_shift = 0;
+    TargetMoments target;
+    target.points = static_cast<double>(count);
+    target.mean = sums.y / target.points;
+    target.variance = sums.yy - target.points * (target.mean * target.mean);
+
+    sum_xx_[0] = sums.xx;
+    mean_x_[0] = sums.x / target.points;
     const double* leaving = x + static_cast<std::size_t>(energy_window);
     for (std::size_t k = 1; k < shifts; ++k, ++leaving) {
         const double lost = leaving[0];
         const double gained = leaving[count];
-        sum_xx = sum_xx - lost * lost + gained * gained;
-        mean_x += (gained - lost) / correlation.points;
-        const double here = correlation(sum_xx, mean_x, cross[k]);
-        if (best < here) {
-            best = here;
-            best_shift = k;
-        }
+        sum_xx_[k] = sum_xx_[k - 1] - lost * lost + gained * gained;
+        mean_x_[k] = mean_x_[k - 1] + (gained - lost) / target.points;
     }
-    return best_shift;
+
+    kernels_->coefficients(sum_xx_.data(), mean_x_.data(), cross_.data(), shifts, target);
+    const auto end = cross_.begin() + static_cast<std::ptrdiff_t>(shifts);
+    return static_cast<std::size_t>(std::max_element(cross_.begin(), end) - cross_.begin());
 }
 
 } // namespace lumora

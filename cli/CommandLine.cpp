@@ -1,0 +1,202 @@
+#include "cli/CommandLine.h"
+
+#include "cli/UsageError.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <iterator>
+
+namespace lumora {
+
+namespace {
+
+constexpr std::size_t kMostJobs = 256;
+
+/// The ways to say how far; each has its own reader, and exactly one is wanted.
+struct SettingOption {
+    const char* name;
+    const char* unit;
+    const char* text;
+    PitchSetting (*read)(const std::string&);
+};
+
+// clang-format off
+constexpr SettingOption kSettings[] = {
+    {"--tones",   "T", "Whole tones and a fraction, -6 to 6: +1, 1/64, -2-3/8", PitchSetting::FromTones},
+    {"--octaves", "X", "Octaves, -1 to 1",                                      PitchSetting::FromOctaves},
+    {"--cents",   "C", "Cents, -1200 to 1200",                                  PitchSetting::FromCents},
+    {"--q-p",     "Q", "Old pitch over new pitch, 0.5 to 2.0",                  PitchSetting::FromQuotient},
+};
+// clang-format on
+
+constexpr char kPitchFooter[] = R"(
+IN is any sound file with one or two channels; what is not a plain 8- or 16-bit
+WAVE file is converted first. OUT is a 16-bit WAVE file, at most 10 ms shorter.
+
+  lumora pitch song.wav higher.wav --tones +1/8
+  lumora pitch *.flac --out-dir lower --tones -2-3/8 --jobs 4
+)";
+
+/// The help of each command with a usage line that says how the files are told apart.
+class HelpText : public CLI::Formatter {
+public:
+    HelpText() { column_width(24); }
+
+    std::string make_usage(const CLI::App* app, std::string) const override
+    {
+        if (app->get_name() == "pitch")
+            return "Usage: lumora pitch IN OUT SETTING [OPTIONS]\n"
+                   "       lumora pitch IN... --out-dir DIR SETTING [OPTIONS]\n";
+        if (app->get_name() == "info") return "Usage: lumora info FILE... [OPTIONS]\n";
+        return "Usage: lumora pitch | info | help ...\n";
+    }
+};
+
+/// The command line's grammar, and where its values go.
+class Grammar {
+public:
+    Grammar()
+    {
+        app_.formatter(std::make_shared<HelpText>()); // the commands take it over when added
+        pitch_ = app_.add_subcommand("pitch", "Change the pitch of sound files");
+        info_ = app_.add_subcommand("info", "Tell what is in sound files");
+        help_ = app_.add_subcommand("help", "Explain a command");
+        app_.set_version_flag("--version", "lumora " LUMORA_VERSION, "Print the version");
+        app_.set_help_flag("-h,--help", "Print this help");
+        app_.require_subcommand(1);
+        app_.footer("\nlumora help pitch, lumora help info and the man page tell more.\n");
+        AddPitch();
+        AddInfo();
+        help_->add_option("COMMAND", topic_, "The command to explain: pitch or info")
+            ->type_name("");
+    }
+
+    Request Read(std::vector<std::string> words, std::vector<std::string> plain_names)
+    {
+        std::reverse(words.begin(), words.end()); // the parser takes them from the back
+        try {
+            app_.parse(std::move(words));
+        } catch (const CLI::CallForHelp&) {
+            return HelpRequest{(*pitch_ ? pitch_ : *info_ ? info_ : &app_)->help()};
+        } catch (const CLI::CallForVersion& version) {
+            return HelpRequest{version.what() + std::string("\n")};
+        } catch (const CLI::RequiredError&) {
+            throw UsageError("say what to do: lumora pitch, lumora info or lumora help");
+        } catch (const CLI::ParseError& error) {
+            throw UsageError(error.what());
+        }
+        files_.insert(files_.end(), std::make_move_iterator(plain_names.begin()),
+                      std::make_move_iterator(plain_names.end()));
+        if (*help_) return Help();
+        if (*info_) return Info();
+        return Pitch();
+    }
+
+private:
+    void AddPitch()
+    {
+        pitch_->add_option("FILE", files_, "IN and OUT, or every IN with --out-dir")->type_name("");
+        for (const SettingOption& setting : kSettings)
+            pitch_->add_option(setting.name)
+                ->description(setting.text)
+                ->type_name(setting.unit)
+                ->expected(1)
+                ->group("Setting (one of them)");
+        pitch_
+            ->add_option("--out-dir", pitch_request_.folder,
+                         "Folder for the results, made if "
+                         "missing")
+            ->type_name("DIR");
+        pitch_->add_option("--jobs", pitch_request_.jobs, "Files worked on side by side (1)")
+            ->type_name("N")
+            ->check(CLI::Range(std::size_t{1}, kMostJobs).description(""));
+        pitch_->add_flag("--force", pitch_request_.force, "Replace files that exist already");
+        pitch_->add_flag("--json", pitch_request_.json, "Print the results as JSON");
+        pitch_->set_help_flag("-h,--help", "Print this help");
+        pitch_->footer(kPitchFooter);
+    }
+
+    void AddInfo()
+    {
+        info_->add_option("FILE", files_, "Sound files")->type_name("");
+        info_->add_flag("--json", info_request_.json, "Print the answers as JSON");
+        info_->set_help_flag("-h,--help", "Print this help");
+    }
+
+    Request Help() const
+    {
+        if (topic_.empty()) return HelpRequest{app_.help()};
+        if (topic_ == "pitch") return HelpRequest{pitch_->help()};
+        if (topic_ == "info") return HelpRequest{info_->help()};
+        throw UsageError("there is no command " + topic_ + "; there are pitch and info");
+    }
+
+    Request Info()
+    {
+        if (files_.empty()) throw UsageError("name the files to look at");
+        info_request_.files = files_;
+        return info_request_;
+    }
+
+    Request Pitch()
+    {
+        pitch_request_.setting = Setting();
+        if (pitch_->count("--out-dir") != 0) {
+            if (pitch_request_.folder.empty()) throw UsageError("--out-dir needs a folder's name");
+            if (files_.empty()) throw UsageError("name the files to work on");
+        } else {
+            if (files_.size() > 2)
+                throw UsageError("several inputs need a folder for their results: --out-dir DIR");
+            if (files_.size() < 2) throw UsageError("name an input and an output");
+            pitch_request_.output = files_.back();
+            files_.pop_back();
+        }
+        pitch_request_.inputs = files_;
+        return pitch_request_;
+    }
+
+    PitchSetting Setting() const
+    {
+        const auto given = [&](const SettingOption& each) { return pitch_->count(each.name) != 0; };
+        const auto chosen = std::find_if(std::begin(kSettings), std::end(kSettings), given);
+        if (std::count_if(std::begin(kSettings), std::end(kSettings), given) != 1)
+            throw UsageError("say how far to move the pitch, with exactly one of --tones, "
+                             "--octaves, --cents and --q-p");
+        return chosen->read(pitch_->get_option(chosen->name)->results().front());
+    }
+
+    CLI::App app_{"Changes the pitch of recorded music in fine steps; its length stays.", "lumora"};
+    CLI::App* pitch_ = nullptr;
+    CLI::App* info_ = nullptr;
+    CLI::App* help_ = nullptr;
+    std::vector<std::string> files_;
+    std::string topic_;
+    PitchRequest pitch_request_;
+    InfoRequest info_request_;
+};
+
+/// The parser takes "[a,b]" for a list and "++" for the end of a command; with "./" ahead they are
+/// files of that name.
+void ProtectNames(std::vector<std::string>& words)
+{
+    for (std::string& word : words)
+        if (word == "++" || (word.starts_with('[') && word.ends_with(']'))) word = "./" + word;
+}
+
+} // namespace
+
+Request ReadCommandLine(std::vector<std::string> words)
+{
+    // What follows "--" is the name of a file, whatever it looks like.
+    const auto mark = std::find(words.begin(), words.end(), "--");
+    std::vector<std::string> plain_names;
+    if (mark != words.end()) {
+        plain_names.assign(mark + 1, words.end());
+        words.erase(mark, words.end());
+    }
+    ProtectNames(words);
+    return Grammar().Read(std::move(words), std::move(plain_names));
+}
+
+} // namespace lumora

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "cli/PitchSetting.h"
+
+#include <cstddef>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace lumora {
+
+/// `lumora pitch`, as it was given.
+struct PitchRequest {
+    std::vector<std::string> inputs; ///< at least one
+    std::string output;              ///< of the one input, unless there is a folder
+    std::string folder;              ///< --out-dir; empty: not given
+    PitchSetting setting;
+    std::size_t jobs = 1;
+    bool force = false;
+    bool json = false;
+};
+
+/// `lumora info`, as it was given.
+struct InfoRequest {
+    std::vector<std::string> files; ///< at least one
+    bool json = false;
+};
+
+/// Text that was asked for instead of work.
+struct HelpRequest {
+    std::string text;
+};
+
+using Request = std::variant<PitchRequest, InfoRequest, HelpRequest>;
+
+/// What the words behind the command's name ask for. UsageError if that cannot be told.
+Request ReadCommandLine(std::vector<std::string> words);
+
+} // namespace lumora

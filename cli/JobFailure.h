@@ -1,0 +1,14 @@
+#pragma once
+
+#include <stdexcept>
+
+namespace lumora {
+
+/// One file could not be done; the others are not touched by it. what() is one line without the
+/// file's name: what is wrong and what to do.
+class JobFailure : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+} // namespace lumora

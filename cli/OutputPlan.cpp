@@ -1,0 +1,81 @@
+#include "cli/OutputPlan.h"
+
+#include "cli/UsageError.h"
+#include "cli/Wording.h"
+
+#include <filesystem>
+#include <map>
+#include <set>
+#include <sys/stat.h>
+#include <utility>
+
+namespace lumora {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using FileId = std::pair<dev_t, ino_t>;
+
+std::set<FileId> IdsOf(const std::vector<std::string>& files)
+{
+    std::set<FileId> ids;
+    for (const std::string& file : files) {
+        struct stat status = {};
+        if (stat(file.c_str(), &status) == 0) ids.insert({status.st_dev, status.st_ino});
+    }
+    return ids;
+}
+
+/// One path for all the ways to write it.
+fs::path PlaceOf(const std::string& name)
+{
+    std::error_code unreachable;
+    const fs::path place = fs::weakly_canonical(fs::absolute(name, unreachable), unreachable);
+    return unreachable ? fs::path(name) : place;
+}
+
+std::string OutputName(const PitchRequest& request, const std::string& input)
+{
+    if (request.folder.empty()) return request.output;
+    return (fs::path(request.folder) / fs::path(input).stem()).string() + ".wav";
+}
+
+void RefuseInputs(const std::vector<OutputFile>& outputs, const std::vector<std::string>& inputs)
+{
+    const std::set<FileId> taken = IdsOf(inputs);
+    for (const OutputFile& output : outputs)
+        for (const FileId& id : IdsOf({output.Target()}))
+            if (taken.contains(id))
+                throw UsageError(NameText(output.Name()) +
+                                 " is an input as well; give the result another name");
+}
+
+void RefuseTwins(const std::vector<OutputFile>& outputs, const std::vector<std::string>& inputs)
+{
+    std::map<fs::path, std::size_t> owners;
+    for (std::size_t k = 0; k < outputs.size(); ++k) {
+        const fs::path place = PlaceOf(outputs[k].Target());
+        const auto [owner, is_new] = owners.insert({place, k});
+        if (!is_new)
+            throw UsageError("the results of " + NameText(inputs[owner->second]) + " and " +
+                             NameText(inputs[k]) + " would both be " + NameText(outputs[k].Name()) +
+                             "; work on them in two runs");
+    }
+}
+
+} // namespace
+
+std::vector<OutputFile> PlanOutputs(const PitchRequest& request)
+{
+    const Existing existing = request.force ? Existing::Replace : Existing::Keep;
+    const Folder folder = request.folder.empty() ? Folder::MustExist : Folder::MakeIt;
+    std::vector<OutputFile> outputs;
+    for (const std::string& input : request.inputs)
+        outputs.emplace_back(OutputName(request, input), existing, folder);
+    RefuseTwins(outputs, request.inputs);
+    RefuseInputs(outputs, request.inputs);
+    return outputs;
+}
+
+} // namespace lumora

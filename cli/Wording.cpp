@@ -1,0 +1,65 @@
+#include "cli/Wording.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstdarg>
+#include <cstdio>
+#include <cstring>
+
+namespace lumora {
+
+namespace {
+
+[[gnu::format(printf, 1, 2)]] std::string Formatted(const char* format, ...)
+{
+    char text[100];
+    va_list values;
+    va_start(values, format);
+    std::vsnprintf(text, sizeof text, format, values);
+    va_end(values);
+    return text;
+}
+
+} // namespace
+
+std::string LengthText(std::int64_t samples, std::int32_t rate_hz)
+{
+    const std::int64_t all = samples / rate_hz * 1000 + samples % rate_hz * 1000 / rate_hz;
+    const auto ms = static_cast<int>(all % 1000);
+    const auto s = static_cast<int>(all / 1000 % 60);
+    const auto min = static_cast<int>(all / 60000 % 60);
+    const auto h = static_cast<long>(all / 3600000);
+    if (h > 0) return Formatted("%ld:%02d:%02d.%03d", h, min, s, ms);
+    if (min > 0) return Formatted("%d:%02d.%03d", min, s, ms);
+    return Formatted("%d.%03d s", s, ms);
+}
+
+std::string SamplesText(std::int64_t samples, std::int32_t rate_hz)
+{
+    const double ms = 1000.0 * static_cast<double>(samples) / rate_hz;
+    return Formatted("%lld samples (%.2f ms)", static_cast<long long>(samples), ms);
+}
+
+std::string CentsText(double cents)
+{
+    const std::string text = Formatted("%+.2f", cents);
+    return text == "+0.00" || text == "-0.00" ? "0.00" : text;
+}
+
+std::string NameText(const std::string& name)
+{
+    std::string text = name;
+    std::replace_if(
+        text.begin(), text.end(),
+        [](char c) { return std::iscntrl(static_cast<unsigned char>(c)) != 0; }, '?');
+    return text;
+}
+
+std::string SystemText(int error_code)
+{
+    std::string text = std::strerror(error_code);
+    text.front() = static_cast<char>(std::tolower(static_cast<unsigned char>(text.front())));
+    return text;
+}
+
+} // namespace lumora

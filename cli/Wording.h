@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace lumora {
+
+/// "4.350 s", "3:25.120", "1:00:00.000".
+std::string LengthText(std::int64_t samples, std::int32_t rate_hz);
+/// "219 samples (9.93 ms)".
+std::string SamplesText(std::int64_t samples, std::int32_t rate_hz);
+/// "+25.00", "-0.13", "0.00".
+std::string CentsText(double cents);
+/// A file's name on one line: control characters become "?".
+std::string NameText(const std::string& name);
+/// The system's words for an error code, without a capital: "permission denied".
+std::string SystemText(int error_code);
+
+} // namespace lumora

@@ -1,0 +1,114 @@
+#!/usr/bin/env python3
+"""Writes the first inputs of the fuzz targets: valid, odd and damaged WAVE files.
+
+make_seeds.py OUTDIR   writes OUTDIR/FuzzWaveHeader/* and OUTDIR/FuzzWaveSamples/*.
+"""
+import pathlib
+import struct
+import sys
+
+
+def chunk(name, body, size=None):
+    """A chunk that states its true size, or the one told."""
+    return name + struct.pack("<i", len(body) if size is None else size) + body
+
+
+def fmt(tag=1, channels=1, rate=22050, bits=16, size=16):
+    """A format body, cut off or filled up to `size` bytes."""
+    frame = channels * bits // 8
+    fields = struct.pack("<hhiihhh", tag, channels, rate, rate * frame, frame, bits, 0)
+    return (fields + bytes(40))[:size]
+
+
+def wave(*chunks, riff=b"RIFF", kind=b"WAVE", size=None):
+    return chunk(riff, kind + b"".join(chunks), size)
+
+
+def plain(data=bytes(range(64)), size=None, **fields):
+    """A format chunk and a data chunk."""
+    return wave(chunk(b"fmt ", fmt(**fields)), chunk(b"data", data, size))
+
+
+FMT = chunk(b"fmt ", fmt())
+DATA = chunk(b"data", bytes(range(64)))
+FACT = chunk(b"fact", struct.pack("<i", 32))
+LEAST, MOST = -(2**31), 2**31 - 1
+
+
+def valid_files():
+    for channels in (1, 2, 3):
+        for bits in (8, 16):
+            yield f"plain-{channels}ch-{bits}bit", plain(channels=channels, bits=bits)
+    for rate in (0, -1, 8000, 44100, 192000, 820510, MOST // 8):
+        yield f"rate-{rate}", plain(rate=rate, data=bytes(8))
+    for size in (16, 17, 18, 40):
+        yield f"fmt-{size}", wave(chunk(b"fmt ", fmt(size=size)), DATA)
+    yield "streamed", wave(chunk(b"fmt ", fmt(size=18)), FACT, DATA)
+    yield "fact-first", wave(FACT, FMT, DATA)
+    yield "info", wave(FMT, chunk(b"INFO", b"artist"), FACT, DATA)
+    yield "lower-case", wave(FMT, DATA, riff=b"riff", kind=b"wave")
+    yield "text-behind", wave(FMT, DATA, chunk(b"LIST", b"INFOISFT")) + b"odd"
+    yield "no-data", plain(data=b"")
+
+
+def odd_files():
+    for tag, size in ((3, 14), (3, 16), (-2, 40)):
+        yield f"tag{tag}-{size}", wave(chunk(b"fmt ", fmt(tag=tag, size=size)), DATA)
+    for bits in (0, 1, 12, 24, 32, -16, -32768):
+        yield f"bits{bits}", wave(
+            chunk(b"fmt ", struct.pack("<hhiihhh", 1, 1, 22050, 44100, 2, bits, 0)), DATA)
+    for channels in (0, -1, 4, 32767, -32768):
+        yield f"channels{channels}", wave(
+            chunk(b"fmt ", struct.pack("<hhiihhh", 1, channels, 22050, 44100, 2, 16, 0)), DATA)
+    yield "list-first", wave(FMT, chunk(b"LIST", b"INFO"), DATA)
+    yield "data-first", wave(DATA, FMT)
+    yield "two-formats", wave(FMT, chunk(b"fmt ", fmt(channels=2, bits=8)), DATA)
+    yield "two-infos", wave(FMT, chunk(b"INFO", b""), chunk(b"INFO", b""), DATA)
+    yield "avi", wave(FMT, DATA, kind=b"AVI ")
+    yield "flac", b"fLaC" + bytes(40)
+
+
+def damaged_files():
+    whole = wave(FACT, chunk(b"fmt ", fmt(size=18)), DATA)
+    for length in range(0, len(whole) - 60):
+        yield f"cut-{length:02}", whole[:length]
+    yield "cut-in-data", whole[:-7]
+    for size in (LEAST, -8, -1, 0, 3, 13, 15, 65, 10000, MOST - 44, MOST):
+        yield f"riff-size{size}", wave(FMT, DATA, size=size)
+        yield f"fmt-size{size}", wave(chunk(b"fmt ", fmt(), size), DATA)
+        yield f"fact-size{size}", wave(FMT, chunk(b"fact", bytes(4), size), DATA)
+        yield f"info-size{size}", wave(FMT, chunk(b"INFO", b"", size), DATA)
+        yield f"data-size{size}", plain(size=size)
+
+
+def ranges():
+    """Name, choice of reader and of the ends that are given, First, Last."""
+    for reader in range(5):
+        yield f"{reader}-all", reader, 0, 0
+        yield f"{reader}-middle", reader | 0x30, 3, 9
+        yield f"{reader}-swapped", reader | 0x30, 9, -3
+        yield f"{reader}-stereo", reader | 0x50, 45, 0
+        yield f"{reader}-beyond", reader | 0x30, 70000, MOST
+
+
+def write_all(folder, files):
+    folder.mkdir(parents=True, exist_ok=True)
+    for name, content in files:
+        (folder / name).write_bytes(content)
+
+
+def main(out):
+    headers = [*valid_files(), *odd_files(), *damaged_files()]
+    write_all(out / "FuzzWaveHeader", headers)
+    bodies = [*valid_files(), *odd_files(),
+              ("promise", plain(size=60000)), ("big-promise", plain(size=10**8)),
+              ("half-sample", plain(data=bytes(7), size=10))]
+    write_all(out / "FuzzWaveSamples",
+              ((f"{name}-{which}", struct.pack("<Bii", choice, first, last) + content)
+               for name, content in bodies for which, choice, first, last in ranges()))
+
+
+if __name__ == "__main__":
+    if len(sys.argv) != 2:
+        sys.exit(__doc__)
+    main(pathlib.Path(sys.argv[1]))

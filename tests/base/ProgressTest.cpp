@@ -1,0 +1,40 @@
+#include "base/Progress.h"
+
+#include <gtest/gtest.h>
+#include <vector>
+
+namespace lumora {
+namespace {
+
+TEST(RunHooks, MayAllBeEmpty)
+{
+    const RunHooks hooks;
+    EXPECT_EQ(hooks.Bar, nullptr);
+    EXPECT_NO_THROW(hooks.Pump());
+    EXPECT_NO_THROW(hooks.Publish(50));
+}
+
+TEST(RunHooks, PassEachCallOn)
+{
+    int pumped = 0;
+    std::vector<int> published;
+    RunHooks hooks;
+    hooks.PumpEvents = [&] { ++pumped; };
+    hooks.PublishPercent = [&](std::int16_t percent) { published.push_back(percent); };
+    hooks.Publish(1);
+    hooks.Pump();
+    hooks.Publish(100);
+    EXPECT_EQ(pumped, 1);
+    EXPECT_EQ(published, (std::vector{1, 100}));
+}
+
+TEST(ProgressBar, StartsAtZero)
+{
+    const ProgressBar bar;
+    EXPECT_EQ(bar.Value, 0);
+    EXPECT_EQ(bar.Min, 0);
+    EXPECT_EQ(bar.Max, 0);
+}
+
+} // namespace
+} // namespace lumora

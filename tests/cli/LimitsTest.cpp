@@ -1,0 +1,96 @@
+#include "cli/CommandRun.h"
+#include "cli/Sounds.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <filesystem>
+#include <sys/resource.h>
+
+namespace lumora::test {
+namespace {
+
+namespace fs = std::filesystem;
+using Names = std::vector<std::string>;
+
+class Limits : public testing::Test {
+protected:
+    /// Silence of so many bytes that takes no room on the disk; `ahead` goes between head and data.
+    std::string Silence(const FormatSpec& format, std::int64_t bytes,
+                        const std::string& ahead = "") const
+    {
+        const std::string head = Wave(FormatChunk(format) + ahead + Chunk("data", "", bytes));
+        const std::string path = folder_.Write("in.wav", head);
+        fs::resize_file(path, head.size() + static_cast<std::size_t>(bytes));
+        return path;
+    }
+
+    CommandResult Run(const std::string& in, const Surroundings& around = {}) const
+    {
+        return Lumora({"pitch", in, folder_ / "out.wav", "--tones", "1"}, around);
+    }
+
+    TempFolder folder_;
+};
+
+TEST_F(Limits, TheLowestAndTheHighestRateRun)
+{
+    for (const std::int32_t rate_hz : {2206, 820510}) {
+        const std::string in = folder_.Write("in.wav", TuneWave(20000, 1, rate_hz));
+        EXPECT_EQ(Run(in).status, 0) << rate_hz;
+        EXPECT_EQ(BytesOf(folder_ / "out.wav"), EngineResult(in, std::exp2(-1.0 / 6.0)));
+        fs::remove(folder_ / "out.wav");
+    }
+}
+
+TEST_F(Limits, AResultBeyondTwoGibibytesIsRefusedAhead)
+{
+    // 8 bits become 16: the result has twice the input's bytes.
+    const CommandResult result = Run(Silence({.bits = 8, .rate_hz = 44100}, 0x41000000));
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.err.find("it lasts 6:52:08.322, and at most 6:45:47.886 of such a sound fit"),
+              std::string::npos)
+        << result.err;
+    EXPECT_EQ(NamesIn(folder_.Path()), Names{"in.wav"});
+}
+
+TEST_F(Limits, MoreChunksThanTheEngineCountsAreRefusedAhead)
+{
+    // At 2206 Hz a chunk has 145 blocks of 22 samples, and 32,767 chunks are counted.
+    constexpr std::int64_t kFirstTooLong = 32768LL * 145 * 22;
+    const CommandResult result = Run(Silence({.bits = 8, .rate_hz = 2206}, kFirstTooLong));
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.err.find("it lasts 13:09:44.369, and at most 13:09:44.369"), std::string::npos)
+        << result.err;
+    EXPECT_EQ(NamesIn(folder_.Path()), Names{"in.wav"});
+}
+
+// A sanitizer takes more memory than the limit by itself.
+#if defined(__has_feature)
+#define LUMORA_SANITIZED __has_feature(address_sanitizer)
+#else
+#define LUMORA_SANITIZED 0
+#endif
+#if !LUMORA_SANITIZED
+TEST_F(Limits, AnHourNeedsNoMoreMemoryThanAMinute)
+{
+    const auto small_memory = [] {
+        const rlimit limit = {8 << 20, 8 << 20};
+        setrlimit(RLIMIT_DATA, &limit);
+    };
+    constexpr std::int64_t kHour = 3600LL * 8000 * 2;
+    const std::string as_it_is;
+    const std::string converted = Chunk("LIST", "INFO");
+    for (const std::string& ahead : {as_it_is, converted}) {
+        const std::string in = Silence({.rate_hz = 8000}, kHour, ahead);
+        const CommandResult result = Run(in, {.before = small_memory});
+        EXPECT_EQ(result.status, 0) << result.err;
+        EXPECT_EQ(result.err.empty(), ahead.empty()) << result.err;
+        EXPECT_EQ(fs::file_size(folder_ / "out.wav"), 58U + kHour);
+        fs::remove(folder_ / "out.wav");
+    }
+}
+#endif
+
+} // namespace
+} // namespace lumora::test

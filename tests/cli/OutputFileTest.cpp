@@ -1,0 +1,101 @@
+#include "cli/OutputFile.h"
+#include "cli/JobFailure.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace lumora::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+void Put(const std::string& path, const std::string& text)
+{
+    std::ofstream(path, std::ios::binary) << text;
+}
+
+TEST(OutputFile, TheResultGetsItsNameWhenItIsCommitted)
+{
+    const TempFolder folder;
+    const OutputFile output(folder / "out.wav", Existing::Keep, Folder::MustExist);
+    EXPECT_EQ(output.Fault(), "");
+    output.Prepare();
+    Put(output.Result(), "new");
+    EXPECT_FALSE(fs::exists(folder / "out.wav"));
+    output.Commit();
+    EXPECT_EQ(BytesOf(folder / "out.wav"), "new");
+    EXPECT_FALSE(fs::exists(output.Result()));
+}
+
+TEST(OutputFile, AFileThatAppearsMeanwhileIsKept)
+{
+    const TempFolder folder;
+    const OutputFile output(folder / "out.wav", Existing::Keep, Folder::MustExist);
+    output.Prepare();
+    folder.Write("out.wav", "mine");
+    EXPECT_THROW(output.Commit(), JobFailure);
+    output.Discard();
+    EXPECT_EQ(BytesOf(folder / "out.wav"), "mine");
+    EXPECT_FALSE(fs::exists(output.Result()));
+}
+
+TEST(OutputFile, AFileThatMayBeReplacedIsReplaced)
+{
+    const TempFolder folder;
+    folder.Write("out.wav", "old");
+    const OutputFile output(folder / "out.wav", Existing::Replace, Folder::MustExist);
+    EXPECT_EQ(output.Fault(), "");
+    output.Prepare();
+    Put(output.Result(), "new");
+    output.Commit();
+    EXPECT_EQ(BytesOf(folder / "out.wav"), "new");
+}
+
+TEST(OutputFile, AFolderThatAppearsMeanwhileIsReported)
+{
+    const TempFolder folder;
+    const OutputFile output(folder / "out.wav", Existing::Replace, Folder::MustExist);
+    output.Prepare();
+    folder.MakeFolder("out.wav");
+    EXPECT_THROW(output.Commit(), JobFailure);
+}
+
+TEST(OutputFile, TemporariesAreHiddenWavesOfTheirOwnBesideTheTarget)
+{
+    const TempFolder folder;
+    const OutputFile one(folder / "out.wav", Existing::Keep, Folder::MustExist);
+    const OutputFile two(folder / "out.wav", Existing::Keep, Folder::MustExist);
+    for (const std::string& name : {one.Result(), one.Converted()}) {
+        EXPECT_EQ(fs::path(name).parent_path(), folder.Path());
+        EXPECT_EQ(fs::path(name).filename().string().front(), '.');
+        EXPECT_EQ(fs::path(name).extension(), ".wav");
+    }
+    EXPECT_NE(one.Result(), one.Converted());
+    EXPECT_NE(one.Result(), two.Result());
+}
+
+TEST(OutputFile, DiscardRemovesBothTemporariesAndNothingElse)
+{
+    const TempFolder folder;
+    const OutputFile output(folder / "out.wav", Existing::Replace, Folder::MustExist);
+    folder.Write("out.wav", "old");
+    output.Prepare();
+    Put(output.Converted(), "input");
+    output.Discard();
+    EXPECT_FALSE(fs::exists(output.Result()) || fs::exists(output.Converted()));
+    EXPECT_EQ(BytesOf(folder / "out.wav"), "old");
+}
+
+TEST(OutputFile, LinksThatGoRoundInACircleAreAFault)
+{
+    const TempFolder folder;
+    fs::create_symlink("b.wav", folder / "a.wav");
+    fs::create_symlink("a.wav", folder / "b.wav");
+    const OutputFile output(folder / "a.wav", Existing::Replace, Folder::MustExist);
+    EXPECT_NE(output.Fault(), "");
+}
+
+} // namespace
+} // namespace lumora::test

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "base/RunTimeError.h"
+
+namespace lumora::test {
+
+/// The number of the run-time error that `action` raises, or 0 if it comes back.
+template <class Action> int Raised(Action&& action)
+{
+    try {
+        action();
+    } catch (const RunTimeError& error) {
+        return static_cast<int>(error.Number());
+    }
+    return 0;
+}
+
+} // namespace lumora::test
