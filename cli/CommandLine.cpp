@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <memory>
+#include <utility>
 
 namespace lumora {
 
@@ -35,8 +37,7 @@ IN is any sound file with one or two channels; what is not a plain 8- or 16-bit
 WAVE file is converted first. OUT is a 16-bit WAVE file, at most 10 ms shorter.
 
   lumora pitch song.wav higher.wav --tones +1/8
-  lumora pitch *.flac --out-dir lower --tones -2-3/8 --jobs 4
-)";
+  lumora pitch *.flac --out-dir lower --tones -2-3/8 --jobs 4)";
 
 /// The help of each command with a usage line that says how the files are told apart.
 class HelpText : public CLI::Formatter {
@@ -50,6 +51,17 @@ public:
                    "       lumora pitch IN... --out-dir DIR SETTING [OPTIONS]\n";
         if (app->get_name() == "info") return "Usage: lumora info FILE... [OPTIONS]\n";
         return "Usage: lumora pitch | info | help ...\n";
+    }
+
+    /// One blank line between paragraphs, none at the end.
+    std::string make_help(const CLI::App* app, std::string name,
+                          CLI::AppFormatMode mode) const override
+    {
+        std::string text = CLI::Formatter::make_help(app, std::move(name), mode);
+        for (std::size_t gap = 0; (gap = text.find("\n\n\n")) != std::string::npos;)
+            text.erase(gap, 1);
+        if (text.ends_with("\n\n")) text.pop_back();
+        return text;
     }
 };
 
@@ -65,7 +77,7 @@ public:
         app_.set_version_flag("--version", "lumora " LUMORA_VERSION, "Print the version");
         app_.set_help_flag("-h,--help", "Print this help");
         app_.require_subcommand(1);
-        app_.footer("\nlumora help pitch, lumora help info and the man page tell more.\n");
+        app_.footer("\nlumora help pitch, lumora help info and the man page tell more.");
         AddPitch();
         AddInfo();
         help_->add_option("COMMAND", topic_, "The command to explain: pitch or info")
@@ -78,7 +90,7 @@ public:
         try {
             app_.parse(std::move(words));
         } catch (const CLI::CallForHelp&) {
-            return HelpRequest{(*pitch_ ? pitch_ : *info_ ? info_ : &app_)->help()};
+            return HelpRequest{app_.help()}; // of the command that was met, if any
         } catch (const CLI::CallForVersion& version) {
             return HelpRequest{version.what() + std::string("\n")};
         } catch (const CLI::RequiredError&) {
@@ -103,10 +115,8 @@ private:
                 ->type_name(setting.unit)
                 ->expected(1)
                 ->group("Setting (one of them)");
-        pitch_
-            ->add_option("--out-dir", pitch_request_.folder,
-                         "Folder for the results, made if "
-                         "missing")
+        pitch_->add_option("--out-dir", pitch_request_.folder)
+            ->description("Folder for the results, made if missing")
             ->type_name("DIR");
         pitch_->add_option("--jobs", pitch_request_.jobs, "Files worked on side by side (1)")
             ->type_name("N")
@@ -124,8 +134,9 @@ private:
         info_->set_help_flag("-h,--help", "Print this help");
     }
 
-    Request Help() const
+    Request Help()
     {
+        app_.clear(); // a parser that has met a command explains only that one
         if (topic_.empty()) return HelpRequest{app_.help()};
         if (topic_ == "pitch") return HelpRequest{pitch_->help()};
         if (topic_ == "info") return HelpRequest{info_->help()};

@@ -148,6 +148,12 @@ void SamplesFromBytes(std::span<const std::uint8_t> bytes, std::span<double> sam
     Kernels().from_bytes(bytes.data(), bytes.size(), samples.data());
 }
 
+void ShortsFromBytes(std::span<const std::uint8_t> bytes, std::span<std::int16_t> shorts)
+{
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        shorts[i] = static_cast<std::int16_t>((bytes[i] - 128) * 256);
+}
+
 void ShortsFromSamples(std::span<const double> samples, std::span<std::int16_t> shorts)
 {
     if (!Kernels().to_shorts(samples.data(), samples.size(), shorts.data()))

@@ -15,6 +15,9 @@ void SamplesFromShorts(std::span<const std::int16_t> shorts, std::span<double> s
 /// Each (value - 128) / 128. Both spans have one length.
 void SamplesFromBytes(std::span<const std::uint8_t> bytes, std::span<double> samples);
 
+/// Each (value - 128) x 256: the same samples times 32768. Both spans have one length.
+void ShortsFromBytes(std::span<const std::uint8_t> bytes, std::span<std::int16_t> shorts);
+
 /// Each sample x 32768 to nearest, half to even. No clipping: error 6 for a value outside 16 bits.
 /// `shorts` is as long as `samples`.
 void ShortsFromSamples(std::span<const double> samples, std::span<std::int16_t> shorts);

@@ -21,8 +21,8 @@ constexpr std::size_t kMostChannels = 2;
 /// One channel's way through a block.
 struct ChannelLine {
     ClsWsolaQuick core;
-    std::vector<double> frame;     ///< BlockLen samples of the input
-    std::vector<double> resampled; ///< BlockLen samples of the result
+    std::vector<std::int16_t> frame; ///< BlockLen samples of the input, times 32768
+    std::vector<double> resampled;   ///< BlockLen samples of the result
 };
 
 /// Buffers and state of one run. Channels are data: mono and stereo take the same road.
@@ -40,6 +40,7 @@ public:
     {
         const WaveInfo info = ReadWaveInfo(run_.InFileName);
         rate_hz_ = info.nSamplesPerSec;
+        bits_ = info.nBitsPerSample;
         plan_ = BlockPlan::ForRate(rate_hz_);
         chunk_count_ = CInt(DivideWhole(info.TotalSamples, plan_.ChunkLen));
         scale_ = Divide(1.0, run_.Q_P == 0.0 ? 1.0 : run_.Q_P);
@@ -60,8 +61,21 @@ private:
         for (std::size_t channel = 0; channel < channels_; ++channel) {
             ChannelLine& line = lines_[channel];
             line.core.SetUp(plan_.BlockLen, plan_.CoarseStep, kExtraLen);
-            line.frame.assign(static_cast<std::size_t>(plan_.BlockLen), 0.0);
+            line.frame.assign(static_cast<std::size_t>(plan_.BlockLen), 0);
             line.resampled.assign(static_cast<std::size_t>(plan_.BlockLen), 0.0);
+        }
+    }
+
+    /// Reads samples times 32768. Other widths than 8 and 16 bits are no samples: the array stays
+    /// without shape, and the first look at it fails.
+    void Read(std::int64_t first, std::optional<std::int64_t> last)
+    {
+        if (bits_ == 8) {
+            ReadWaveBytes(run_.InFileName, bytes_, first, last);
+            ShapeLike(bytes_, samples_);
+            ShortsFromBytes(bytes_.Span(), samples_.Span());
+        } else {
+            ReadWaveShorts(run_.InFileName, samples_, first, last);
         }
     }
 
@@ -69,7 +83,7 @@ private:
     /// not made of whole blocks; what is left over is dropped.
     void Transform(std::int64_t first, std::optional<std::int64_t> last)
     {
-        ReadWaveSamples(run_.InFileName, samples_, first, last);
+        Read(first, last);
         const bool stereo = channels_ == 2;
         if (samples_.Dimensions() != (stereo ? 2 : 1)) Raise(ErrorNumber::Subscript);
         const std::int64_t length = samples_.UBound(stereo ? 2 : 1);
@@ -85,6 +99,14 @@ private:
         Write();
     }
 
+    static void ShapeLike(const Array<std::uint8_t>& model, Array<std::int16_t>& array)
+    {
+        if (model.Dimensions() == 2)
+            array.ReDimForOverwrite({1, model.UBound(1)}, {1, model.UBound(2)});
+        else
+            array.ReDimForOverwrite({1, model.UBound()});
+    }
+
     void ShapeOutput(std::int64_t length)
     {
         if (channels_ == 2)
@@ -97,7 +119,7 @@ private:
     {
         const std::size_t block_values = static_cast<std::size_t>(plan_.BlockLen) * channels_;
         const std::size_t start = static_cast<std::size_t>(j) * block_values;
-        const std::span<const double> block = samples_.Span().subspan(start, block_values);
+        const std::span<const std::int16_t> block = samples_.Span().subspan(start, block_values);
         for (std::size_t channel = 0; channel < channels_; ++channel)
             TransformChannel(lines_[channel], block.subspan(channel));
         const std::span<std::int16_t> shorts = output_.Span().subspan(start, block_values);
@@ -108,9 +130,9 @@ private:
     }
 
     /// `interleaved` begins with the channel's first sample.
-    void TransformChannel(ChannelLine& line, std::span<const double> interleaved)
+    void TransformChannel(ChannelLine& line, std::span<const std::int16_t> interleaved)
     {
-        std::span<const double> frame = interleaved;
+        std::span<const std::int16_t> frame = interleaved;
         if (channels_ == 2) {
             kernels_.take_every_other(interleaved.data(), line.frame.size(), line.frame.data());
             frame = line.frame;
@@ -161,13 +183,15 @@ private:
 
     std::size_t channels_;
     std::int32_t rate_hz_ = 0;
+    std::int16_t bits_ = 0;
     BlockPlan plan_;
     std::int16_t chunk_count_ = 0;
     double scale_ = 1.0;
     bool written_ = false;
 
     std::array<ChannelLine, kMostChannels> lines_;
-    Array<double> samples_;
+    Array<std::uint8_t> bytes_;
+    Array<std::int16_t> samples_;
     Array<std::int16_t> output_;
 };
 

@@ -1,9 +1,11 @@
 #include "engine/ClsWsolaQuick.h"
 
+#include "audio/SampleConversion.h"
 #include "base/Cosine.h"
 #include "base/Numbers.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace lumora {
 
@@ -45,13 +47,15 @@ std::int16_t Quotient(int dividend, std::int16_t divisor)
     return CInt(Int(Divide(dividend, divisor)));
 }
 
+/// What the kernels of the search may read behind a signal.
+constexpr std::size_t kReadAhead = kShiftGroup + ShortKernels::kGroup;
+
 /// How many hops a buffer slides before its samples are moved.
 constexpr std::size_t kHopsBetweenMoves = 6;
 
 } // namespace
 
-ClsWsolaQuick::ClsWsolaQuick(VectorWidth width)
-    : kernels_(&EngineKernelsFor(width)), search_(width)
+ClsWsolaQuick::ClsWsolaQuick(VectorWidth width) : kernels_(&EngineKernelsFor(width)), search_(width)
 {
 }
 
@@ -73,19 +77,26 @@ void ClsWsolaQuick::SetUp(const std::int16_t& N, const std::int16_t& S, const st
     PrevOutCount = N;
 
     coarse_in_len_ = CInt(Quotient(TargetLen + X + N, S) - 1);
-    const std::int16_t coarse_target_len = CInt(Quotient(TargetLen, S) + 1);
-    const int coarse_shifts = coarse_in_len_ - coarse_target_len + 1;
+    coarse_target_len_ = CInt(Quotient(TargetLen, S) + 1);
+    const int coarse_shifts = coarse_in_len_ - coarse_target_len_ + 1;
     const int fine_shifts = 2 * S + 1;
     const auto most_shifts = static_cast<std::size_t>(std::max({coarse_shifts, fine_shifts, 1}));
 
     const std::size_t slack = kHopsBetweenMoves * Size(N);
-    InBuf.SetUp(Size(InLen), slack, kShiftGroup);
+    InBuf.SetUp(Size(InLen), slack, kReadAhead);
     OutBuf.SetUp(Size(OutLen), slack, 0);
     Target.assign(Size(TargetLen), 0.0);
-    CoarseIn.assign(Size(coarse_in_len_) + kShiftGroup, 0.0);
-    CoarseTarget.assign(Size(coarse_target_len), 0.0);
+    CoarseIn.assign(Size(coarse_in_len_) + kReadAhead, 0.0);
+    CoarseTarget.assign(Size(coarse_target_len_), 0.0);
     Window = HannWindow(FrameLen);
-    search_.SetUp(most_shifts, Size(TargetLen));
+    search_.SetUp(most_shifts);
+
+    short_in_.SetUp(Size(InLen), slack, kReadAhead);
+    short_target_.assign(Target.size() + kReadAhead, 0);
+    short_coarse_in_.assign(CoarseIn.size(), 0);
+    short_coarse_target_.assign(CoarseTarget.size() + kReadAhead, 0);
+    short_samples_ = InLen;
+    target_is_in_shorts_ = true;
 }
 
 void ClsWsolaQuick::Destruct()
@@ -93,6 +104,10 @@ void ClsWsolaQuick::Destruct()
     search_.Release();
     InBuf.Release();
     OutBuf.Release();
+    short_in_.Release();
+    for (std::vector<std::int16_t>* array :
+         {&short_target_, &short_coarse_in_, &short_coarse_target_})
+        *array = {};
     for (std::vector<double>* array : {&Target, &CoarseIn, &CoarseTarget, &Window})
         *array = {};
 }
@@ -108,11 +123,35 @@ Array<double> ClsWsolaQuick::Wsola_Operation(const Array<double>& Block, const d
 
 std::span<const double> ClsWsolaQuick::Stretch(std::span<const double> block, double scale)
 {
-    if (Window.empty() || block.size() != static_cast<std::size_t>(BlockLen))
+    const std::int16_t K = Begin(block.size(), scale);
+    TakeIn(block);
+    return Finish(K, scale);
+}
+
+std::span<const double> ClsWsolaQuick::Stretch(std::span<const std::int16_t> block, double scale)
+{
+    const std::int16_t K = Begin(block.size(), scale);
+    TakeIn(block);
+    return Finish(K, scale);
+}
+
+/// Both buffers are about to slide under their positions; the output slides here, and zeros come in
+/// at its end. Answers how many samples this call hands out.
+std::int16_t ClsWsolaQuick::Begin(std::size_t block_length, double scale)
+{
+    if (Window.empty() || block_length != static_cast<std::size_t>(BlockLen))
         Raise(ErrorNumber::Subscript);
     const std::int16_t K = CInt(BlockLen * scale);
-    TakeIn(block);
+    ReadPos = CInt(ReadPos - BlockLen);
+    WritePos = CInt(WritePos - PrevOutCount);
+    if (PrevOutCount < 0 || PrevOutCount > OutLen) Raise(ErrorNumber::Subscript);
+    std::ranges::fill(OutBuf.Slide(static_cast<std::size_t>(PrevOutCount)), 0.0);
     PrevOutCount = K;
+    return K;
+}
+
+std::span<const double> ClsWsolaQuick::Finish(std::int16_t K, double scale)
+{
     if (scale <= 1.0)
         Compress(K);
     else
@@ -121,15 +160,18 @@ std::span<const double> ClsWsolaQuick::Stretch(std::span<const double> block, do
     return {OutBuf.Data(), static_cast<std::size_t>(K)};
 }
 
-/// Both buffers slide under their positions; the block comes in at the input's end, zeros at the
-/// output's.
 void ClsWsolaQuick::TakeIn(std::span<const double> block)
 {
-    ReadPos = CInt(ReadPos - BlockLen);
-    WritePos = CInt(WritePos - PrevOutCount);
     std::copy(block.begin(), block.end(), InBuf.Slide(block.size()).begin());
-    if (PrevOutCount < 0 || PrevOutCount > OutLen) Raise(ErrorNumber::Subscript);
-    std::ranges::fill(OutBuf.Slide(static_cast<std::size_t>(PrevOutCount)), 0.0);
+    short_samples_ = 0;
+}
+
+void ClsWsolaQuick::TakeIn(std::span<const std::int16_t> block)
+{
+    SamplesFromShorts(block, InBuf.Slide(block.size()));
+    if (!search_.TakesShorts()) return;
+    std::copy(block.begin(), block.end(), short_in_.Slide(block.size()).begin());
+    short_samples_ = std::min(short_samples_ + BlockLen, int{InLen});
 }
 
 void ClsWsolaQuick::Compress(std::int16_t K)
@@ -186,12 +228,23 @@ void ClsWsolaQuick::CaptureTarget()
 {
     CheckRange(ReadPos, ReadPos + TargetLen - 1, InLen);
     std::copy_n(InBuf.Data() + Place(ReadPos), TargetLen, Target.begin());
+    target_is_in_shorts_ = short_samples_ > InLen - ReadPos;
+    if (target_is_in_shorts_)
+        std::copy_n(short_in_.Data() + Place(ReadPos), TargetLen, short_target_.begin());
+}
+
+/// Integers serve when all that a search looks at came as such, and no product overflows them.
+bool ClsWsolaQuick::SearchesShorts() const
+{
+    return search_.TakesShorts() && target_is_in_shorts_ && short_samples_ == InLen &&
+           *std::ranges::min_element(short_target_) > std::numeric_limits<std::int16_t>::min();
 }
 
 /// Plain subsampling, no filter. Places of Dest behind the last one written keep what they held,
 /// which is zero: they take part in the search.
-void ClsWsolaQuick::Decimate(std::span<const double> Source, std::span<double> Dest,
-                             std::int16_t First, std::int16_t Last) const
+template <class T>
+void ClsWsolaQuick::Decimate(std::span<const T> Source, std::span<T> Dest, std::int16_t First,
+                             std::int16_t Last) const
 {
     CheckRange(First, Last, static_cast<int>(Source.size()));
     if (Dest.size() < static_cast<std::size_t>((Last - First) / CoarseStep + 1))
@@ -202,18 +255,21 @@ void ClsWsolaQuick::Decimate(std::span<const double> Source, std::span<double> D
 }
 
 /// Index of the best shift of CoarseTarget within CoarseIn, from 1.
-std::int16_t ClsWsolaQuick::CoarseMatch()
+std::int16_t ClsWsolaQuick::CoarseMatch(bool shorts)
 {
-    const int last_shift = coarse_in_len_ - static_cast<int>(CoarseTarget.size());
+    const int last_shift = coarse_in_len_ - coarse_target_len_;
     if (last_shift < 0) Raise(ErrorNumber::Subscript);
-    const std::size_t shift =
-        search_.BestShift(CoarseIn.data(), CoarseTarget.data(), CoarseTarget.size(),
-                          static_cast<std::size_t>(last_shift) + 1, EnergyWindow::Exact);
-    return CInt(shift + 1);
+    const std::size_t points = Size(coarse_target_len_);
+    const std::size_t shifts = static_cast<std::size_t>(last_shift) + 1;
+    return CInt(1 + (shorts
+                         ? search_.BestShift(short_coarse_in_.data(), short_coarse_target_.data(),
+                                             points, shifts, EnergyWindow::Exact)
+                         : search_.BestShift(CoarseIn.data(), CoarseTarget.data(), points, shifts,
+                                             EnergyWindow::Exact)));
 }
 
-/// Best start of Target in InBuf, S samples around the coarse one; answers the frame's centre.
-std::int16_t ClsWsolaQuick::FineMatch(std::int16_t coarse_start)
+/// Best start of Target in InBuf, S samples around the coarse one.
+std::int16_t ClsWsolaQuick::FineMatch(std::int16_t coarse_start, bool shorts)
 {
     const std::int16_t lo = CInt(coarse_start - CoarseStep);
     std::int16_t hi = 0;
@@ -221,34 +277,44 @@ std::int16_t ClsWsolaQuick::FineMatch(std::int16_t coarse_start)
     std::int16_t last = 0;
     MaxOf(lo, hi, last); // Lo itself is always tried
     CheckRange(lo, last + TargetLen - 1, InLen);
-    const std::size_t shift =
-        search_.BestShift(InBuf.Data() + Place(lo), Target.data(), Target.size(),
-                          static_cast<std::size_t>(last - lo) + 1, EnergyWindow::OneAhead);
-    return CInt(lo + static_cast<int>(shift) + BlockLen);
+    const std::size_t points = Target.size();
+    const std::size_t shifts = static_cast<std::size_t>(last - lo) + 1;
+    return CInt(
+        lo + static_cast<int>(shorts ? search_.BestShift(short_in_.Data() + Place(lo),
+                                                         short_target_.data(), points, shifts,
+                                                         EnergyWindow::OneAhead)
+                                     : search_.BestShift(InBuf.Data() + Place(lo), Target.data(),
+                                                         points, shifts, EnergyWindow::OneAhead)));
+}
+
+/// The frame centre, at most `most`, whose frame best continues the target; the coarse search sees
+/// the input from `first` to `last`.
+std::int16_t ClsWsolaQuick::Match(std::int16_t first, std::int16_t last, std::int16_t most)
+{
+    const bool shorts = SearchesShorts();
+    if (shorts) {
+        Decimate<std::int16_t>(short_in_.All(), short_coarse_in_, first, last);
+        Decimate<std::int16_t>(short_target_, short_coarse_target_, 1, TargetLen);
+    } else {
+        Decimate<double>(InBuf.All(), CoarseIn, first, last);
+        Decimate<double>(Target, CoarseTarget, 1, TargetLen);
+    }
+    const std::int16_t coarse_start = CInt(CoarseStep * (CoarseMatch(shorts) - 1) + first);
+    std::int16_t centre = 0;
+    MinOf(CInt(FineMatch(coarse_start, shorts) + BlockLen), most, centre);
+    return centre;
 }
 
 /// Compression looks in the newest part of the input.
 std::int16_t ClsWsolaQuick::MatchForward()
 {
-    const std::span<const double> input(InBuf.Data(), InBuf.Length());
-    Decimate(input, CoarseIn, SearchFloor, CInt(InLen - CoarseStep - 1));
-    Decimate(Target, CoarseTarget, 1, TargetLen);
-    std::int16_t centre = 0;
-    MinOf(FineMatch(CInt(CoarseStep * (CoarseMatch() - 1) + SearchFloor)), CInt(KeepLen - 1),
-          centre);
-    return centre;
+    return Match(SearchFloor, CInt(InLen - CoarseStep - 1), CInt(KeepLen - 1));
 }
 
 /// Expansion looks in the older part. The cap keeps the second frame of the call inside the buffer.
 std::int16_t ClsWsolaQuick::MatchBackward()
 {
-    const std::span<const double> input(InBuf.Data(), InBuf.Length());
-    Decimate(input, CoarseIn, CInt(CoarseStep + 1), CInt(KeepLen - CoarseStep - 1));
-    Decimate(Target, CoarseTarget, 1, TargetLen);
-    std::int16_t centre = 0;
-    MinOf(FineMatch(CInt(CoarseStep * (CoarseMatch() - 1) + CoarseStep + 1)),
-          CInt(KeepLen - BlockLen), centre);
-    return centre;
+    return Match(CInt(CoarseStep + 1), CInt(KeepLen - CoarseStep - 1), CInt(KeepLen - BlockLen));
 }
 
 void ClsWsolaQuick::MinOf(const std::int16_t& A, const std::int16_t& B, std::int16_t& Result)

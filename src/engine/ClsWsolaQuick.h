@@ -47,22 +47,32 @@ public:
     /// call on this object.
     std::span<const double> Stretch(std::span<const double> block, double scale);
 
+    /// The same for samples times 32768, as 16-bit files have them. It gives the bits of the form
+    /// above, in less time: sums of their products are exact, so the search may use integers.
+    std::span<const double> Stretch(std::span<const std::int16_t> block, double scale);
+
     /// Releases all arrays.
     void Destruct();
 
 private:
+    std::int16_t Begin(std::size_t block_length, double scale);
+    std::span<const double> Finish(std::int16_t K, double scale);
     void TakeIn(std::span<const double> block);
+    void TakeIn(std::span<const std::int16_t> block);
     void Compress(std::int16_t K);
     void Expand(std::int16_t K);
     void AddNaturalSuccessor();
 
-    std::int16_t CoarseMatch();
-    std::int16_t FineMatch(std::int16_t coarse_start);
+    bool SearchesShorts() const;
+    std::int16_t Match(std::int16_t first, std::int16_t last, std::int16_t most);
+    std::int16_t CoarseMatch(bool shorts);
+    std::int16_t FineMatch(std::int16_t coarse_start, bool shorts);
     std::int16_t MatchForward();
     std::int16_t MatchBackward();
     static void MinOf(const std::int16_t& A, const std::int16_t& B, std::int16_t& Result);
     static void MaxOf(const std::int16_t& A, const std::int16_t& B, std::int16_t& Result);
-    void Decimate(std::span<const double> Source, std::span<double> Dest, std::int16_t First,
+    template <class T>
+    void Decimate(std::span<const T> Source, std::span<T> Dest, std::int16_t First,
                   std::int16_t Last) const;
     void OverlapAdd();
     void CaptureTarget();
@@ -87,13 +97,20 @@ private:
     std::int16_t WritePos = 0;     ///< centre, in OutBuf, of the frame last added; from 1
     std::int16_t PrevOutCount = 0; ///< samples handed out by the call before
 
-    SlidingBuffer InBuf;
-    SlidingBuffer OutBuf;
+    SlidingBuffer<double> InBuf;
+    SlidingBuffer<double> OutBuf;
     std::vector<double> Target;       ///< the natural continuation last captured
     std::vector<double> CoarseIn;     ///< every S-th sample of the part of InBuf under search
     std::vector<double> CoarseTarget; ///< every S-th sample of Target
     std::vector<double> Window;       ///< Hann
-    std::int16_t coarse_in_len_ = 0;  ///< CoarseIn without the group that the kernels read ahead
+    std::int16_t coarse_in_len_ = 0;  ///< CoarseIn and CoarseTarget without what the kernels read
+    std::int16_t coarse_target_len_ = 0; ///< ahead
+
+    // The same samples times 32768, as far as blocks came that way.
+    SlidingBuffer<std::int16_t> short_in_;
+    std::vector<std::int16_t> short_target_, short_coarse_in_, short_coarse_target_;
+    int short_samples_ = 0; ///< how many at the end of the input are in short_in_
+    bool target_is_in_shorts_ = false;
 };
 
 } // namespace lumora

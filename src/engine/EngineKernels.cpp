@@ -107,8 +107,9 @@ template <class V>
     }
 }
 
-[[gnu::always_inline]] inline void TakeEveryOtherLoop(const double* __restrict interleaved,
-                                                      std::size_t count, double* __restrict frame)
+[[gnu::always_inline]] inline void TakeEveryOtherLoop(const std::int16_t* __restrict interleaved,
+                                                      std::size_t count,
+                                                      std::int16_t* __restrict frame)
 {
     for (std::size_t i = 0; i < count; ++i)
         frame[i] = interleaved[2 * i];
@@ -120,20 +121,20 @@ void CorrelateBaseline(const double* x, const double* y, std::size_t count, std:
 void CoefficientsBaseline(const double* sum_xx, const double* mean_x, double* cross, std::size_t shifts, const TargetMoments& target) { CoefficientsLoop(sum_xx, mean_x, cross, shifts, target); }
 void OverlapAddBaseline(double* out, const double* in, const double* window, std::size_t count) { OverlapAddLoop(out, in, window, count); }
 void InterpolateBaseline(const double* s, const std::int32_t* index, const double* fraction, std::size_t count, double* out) { InterpolateLoop(s, index, fraction, count, out); }
-void TakeEveryOtherBaseline(const double* interleaved, std::size_t count, double* frame) { TakeEveryOtherLoop(interleaved, count, frame); }
+void TakeEveryOtherBaseline(const std::int16_t* interleaved, std::size_t count, std::int16_t* frame) { TakeEveryOtherLoop(interleaved, count, frame); }
 constexpr EngineKernels kBaseline{CorrelateBaseline, CoefficientsBaseline, OverlapAddBaseline, InterpolateBaseline, TakeEveryOtherBaseline};
 #if defined(__x86_64__)
 [[gnu::target("avx2")]] void CorrelateAvx2(const double* x, const double* y, std::size_t count, std::size_t shifts, double* cross, WindowSums& sums) { Correlate<Four>(x, y, count, shifts, cross, sums); }
 [[gnu::target("avx2")]] void CoefficientsAvx2(const double* sum_xx, const double* mean_x, double* cross, std::size_t shifts, const TargetMoments& target) { CoefficientsLoop(sum_xx, mean_x, cross, shifts, target); }
 [[gnu::target("avx2")]] void OverlapAddAvx2(double* out, const double* in, const double* window, std::size_t count) { OverlapAddLoop(out, in, window, count); }
 [[gnu::target("avx2")]] void InterpolateAvx2(const double* s, const std::int32_t* index, const double* fraction, std::size_t count, double* out) { InterpolateLoop(s, index, fraction, count, out); }
-[[gnu::target("avx2")]] void TakeEveryOtherAvx2(const double* interleaved, std::size_t count, double* frame) { TakeEveryOtherLoop(interleaved, count, frame); }
+[[gnu::target("avx2")]] void TakeEveryOtherAvx2(const std::int16_t* interleaved, std::size_t count, std::int16_t* frame) { TakeEveryOtherLoop(interleaved, count, frame); }
 constexpr EngineKernels kAvx2{CorrelateAvx2, CoefficientsAvx2, OverlapAddAvx2, InterpolateAvx2, TakeEveryOtherAvx2};
 [[gnu::target("avx512f")]] void CorrelateAvx512(const double* x, const double* y, std::size_t count, std::size_t shifts, double* cross, WindowSums& sums) { Correlate<Eight>(x, y, count, shifts, cross, sums); }
 [[gnu::target("avx512f")]] void CoefficientsAvx512(const double* sum_xx, const double* mean_x, double* cross, std::size_t shifts, const TargetMoments& target) { CoefficientsLoop(sum_xx, mean_x, cross, shifts, target); }
 [[gnu::target("avx512f")]] void OverlapAddAvx512(double* out, const double* in, const double* window, std::size_t count) { OverlapAddLoop(out, in, window, count); }
 [[gnu::target("avx512f")]] void InterpolateAvx512(const double* s, const std::int32_t* index, const double* fraction, std::size_t count, double* out) { InterpolateLoop(s, index, fraction, count, out); }
-[[gnu::target("avx512f")]] void TakeEveryOtherAvx512(const double* interleaved, std::size_t count, double* frame) { TakeEveryOtherLoop(interleaved, count, frame); }
+[[gnu::target("avx512f")]] void TakeEveryOtherAvx512(const std::int16_t* interleaved, std::size_t count, std::int16_t* frame) { TakeEveryOtherLoop(interleaved, count, frame); }
 constexpr EngineKernels kAvx512{CorrelateAvx512, CoefficientsAvx512, OverlapAddAvx512, InterpolateAvx512, TakeEveryOtherAvx512};
 #endif
 // clang-format on

@@ -56,7 +56,8 @@ struct EngineKernels {
                         std::size_t count, double* out);
 
     /// frame[i] = interleaved[2 * i].
-    void (*take_every_other)(const double* interleaved, std::size_t count, double* frame);
+    void (*take_every_other)(const std::int16_t* interleaved, std::size_t count,
+                             std::int16_t* frame);
 };
 
 const EngineKernels& EngineKernelsFor(VectorWidth width);

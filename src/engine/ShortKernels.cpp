@@ -25,30 +25,6 @@ LUMORA_AVX2 inline __m256i Load(const Shorts* from)
     return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(from));
 }
 
-LUMORA_AVX2 bool ToExactShorts(const double* in, std::size_t count, Shorts* out)
-{
-    __m256d changed = _mm256_setzero_pd(); // bits lost by the way to integers and back
-    __m128i raised = _mm_setzero_si128();  // bits beyond 16 of the numbers plus 32768
-    std::size_t i = 0;
-    for (; i + 4 <= count; i += 4) {
-        const __m256d scaled = _mm256_mul_pd(_mm256_loadu_pd(in + i), _mm256_set1_pd(32768.0));
-        const __m128i whole = _mm256_cvtpd_epi32(scaled);
-        changed = _mm256_or_pd(changed, _mm256_xor_pd(scaled, _mm256_cvtepi32_pd(whole)));
-        raised = _mm_or_si128(raised, _mm_add_epi32(whole, _mm_set1_epi32(32768)));
-        _mm_storel_epi64(reinterpret_cast<__m128i*>(out + i), _mm_packs_epi32(whole, whole));
-    }
-    const __m256i lost = _mm256_castpd_si256(changed);
-    bool exact = _mm256_testz_si256(lost, lost) &&
-                 _mm_testz_si128(raised, _mm_set1_epi32(static_cast<int>(0xFFFF0000U)));
-    for (; i < count; ++i) {
-        const double scaled = in[i] * 32768.0;
-        const bool fits = scaled >= -32768.0 && scaled <= 32767.0;
-        out[i] = fits ? static_cast<Shorts>(scaled) : Shorts{0};
-        exact = exact && fits && static_cast<double>(out[i]) == scaled;
-    }
-    return exact;
-}
-
 LUMORA_AVX2 inline __m256i Widened(__m256i ints)
 {
     return _mm256_add_epi64(_mm256_cvtepi32_epi64(_mm256_castsi256_si128(ints)),
@@ -71,7 +47,8 @@ LUMORA_AVX2 void CorrelateFour(const Shorts* x, const Shorts* y, std::size_t pad
 {
     __m256i all[kShiftsAtOnce];
     __m256i high[kShiftsAtOnce];
-    for (std::size_t s = 0; s < kShiftsAtOnce; ++s) all[s] = high[s] = _mm256_setzero_si256();
+    for (std::size_t s = 0; s < kShiftsAtOnce; ++s)
+        all[s] = high[s] = _mm256_setzero_si256();
 #pragma GCC unroll 2
     for (std::size_t i = 0; i < padded; i += kGroup) {
         const __m256i target = Load(y + i);
@@ -137,7 +114,7 @@ LUMORA_AVX2 void Correlate(const Shorts* x, const Shorts* y, std::size_t count, 
 
 #undef LUMORA_AVX2
 
-constexpr ShortKernels kAvx2{ToExactShorts, Correlate};
+constexpr ShortKernels kAvx2{Correlate};
 
 } // namespace
 

@@ -15,10 +15,6 @@ struct ShortKernels {
     /// Samples are worked on in groups of this many.
     static constexpr std::size_t kGroup = 16;
 
-    /// out[i] = in[i] * 32768. False, and `out` of no use, unless each is a whole number of 16
-    /// bits.
-    bool (*to_exact_shorts)(const double* in, std::size_t count, std::int16_t* out);
-
     /// cross[k] = sum over i of y[i] * x[k + i] as if of samples, i below `count`, k below
     /// `shifts`; `sums` over the window at shift 0. y must be zero up to the next whole group
     /// behind `count`, and x readable up to index PaddedShifts(shifts) + that many - 2. `cross`

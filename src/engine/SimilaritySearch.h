@@ -19,8 +19,8 @@ class SimilaritySearch {
 public:
     explicit SimilaritySearch(VectorWidth width);
 
-    /// Makes room for searches of up to `most_shifts` shifts of up to `most_points` points.
-    void SetUp(std::size_t most_shifts, std::size_t most_points);
+    /// Makes room for searches of up to `most_shifts` shifts.
+    void SetUp(std::size_t most_shifts);
     void Release();
 
     /// The shift k in 0..shifts-1 at which the window x[k .. k + count - 1] is most like the target
@@ -32,17 +32,22 @@ public:
     std::size_t BestShift(const double* x, const double* y, std::size_t count, std::size_t shifts,
                           EnergyWindow energy_window);
 
+    /// True where the second form is to be had.
+    bool TakesShorts() const { return short_kernels_ != nullptr; }
+    /// The same, bit for bit, on samples times 32768; x and y as ShortKernels::correlate says.
+    std::size_t BestShift(const std::int16_t* x, const std::int16_t* y, std::size_t count,
+                          std::size_t shifts, EnergyWindow energy_window);
+
 private:
-    void Correlate(const double* x, const double* y, std::size_t count, std::size_t shifts,
-                   WindowSums& sums);
+    template <class T>
+    std::size_t Best(const T* x, std::size_t count, std::size_t shifts, EnergyWindow energy_window,
+                     const WindowSums& sums);
 
     const EngineKernels* kernels_;
-    const ShortKernels* short_kernels_; ///< null: none here
-    std::vector<std::int16_t> short_x_; ///< the windows and the target of a search whose samples
-    std::vector<std::int16_t> short_y_; ///< are exact in 16 bits
-    std::vector<double> cross_;         ///< of each shift: sum of products, then the coefficient
-    std::vector<double> sum_xx_;        ///< of each shift: sum of squares of the window
-    std::vector<double> mean_x_;        ///< of each shift: mean of the window
+    const ShortKernels* short_kernels_;
+    std::vector<double> cross_;  ///< of each shift: sum of products, then the coefficient
+    std::vector<double> sum_xx_; ///< of each shift: sum of squares of the window
+    std::vector<double> mean_x_; ///< of each shift: mean of the window
 };
 
 } // namespace lumora
