@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <new>
 #include <span>
 #include <stdexcept>
@@ -18,7 +19,15 @@ struct Bounds {
     std::int64_t lower = 1;
     std::int64_t upper = 0;
 
-    std::int64_t Count() const { return upper - lower + 1; }
+    /// Below 1 for an empty range; a range too long to count counts as the longest.
+    std::int64_t Count() const
+    {
+        constexpr std::int64_t kLongest = std::numeric_limits<std::int64_t>::max();
+        std::int64_t steps = 0;
+        if (upper < lower) return 0;
+        if (__builtin_sub_overflow(upper, lower, &steps) || steps == kLongest) return kLongest;
+        return steps + 1;
+    }
     bool Holds(std::int64_t i) const { return i >= lower && i <= upper; }
     bool operator==(const Bounds&) const = default;
 };
@@ -33,6 +42,18 @@ public:
     explicit Array(std::int64_t count) { ReDim({1, count}); }
     /// Two dimensions, 1..rows by 1..columns, zero-filled. Error 9 if either is below 1.
     Array(std::int64_t rows, std::int64_t columns) { ReDim({1, rows}, {1, columns}); }
+
+    Array(const Array&) = default;
+    Array& operator=(const Array&) = default;
+    /// What is moved from is left without dimension.
+    Array(Array&& other) noexcept { Swap(other); }
+    Array& operator=(Array&& other) noexcept
+    {
+        Array taken(std::move(other));
+        Swap(taken);
+        return *this;
+    }
+    ~Array() = default;
 
     /// New shape, zero-filled; earlier contents are gone. Errors 9 (empty shape) and 7.
     void ReDim(Bounds first)
@@ -71,6 +92,13 @@ public:
     bool operator==(const Array&) const = default;
 
 private:
+    void Swap(Array& other) noexcept
+    {
+        std::swap(dimensions_, other.dimensions_);
+        std::swap(bounds_, other.bounds_);
+        store_.swap(other.store_);
+    }
+
     void Reshape(int dimensions, Bounds first, Bounds second)
     {
         if (first.Count() < 1 || second.Count() < 1) Raise(ErrorNumber::Subscript);

@@ -33,8 +33,9 @@ inline constexpr FileNumber kNoFile = -1;
 ///          |                                             |   or 'wb+'"
 ///
 /// Answers kNoFile where a message is listed, and without a message where "wb" or "wr" cannot make
-/// the file. Errors 70, 75: an existing file that may not be opened or deleted; 67: no free number.
-/// A folder is no file. A device or pipe in the way of "wb" is opened, never deleted.
+/// or open the file. Errors 70, 75: an existing file that "rb" or "wb+" may not open or "wb" may
+/// not delete; 67: no free number. A folder is no file. A device or pipe in the way of "wb" is
+/// opened, never deleted.
 FileNumber fopen(const std::string& FileName, std::string_view Mode);
 
 /// The same under the title "Error using fopen_Rudo.", but "wb" keeps an existing file: it opens

@@ -49,11 +49,10 @@ double NumberOf(const std::string& text);
 class Variant {
 public:
     Variant() = default;
+    /// A value of any kind listed below is a Variant without further ado.
     template <class T>
-    requires(!std::same_as<std::remove_cvref_t<T>, Variant>) Variant(T&& value)
-        : held_(std::forward<T>(value))
-    {
-    }
+    // NOLINTNEXTLINE(google-explicit-constructor)
+    requires(!std::same_as<T, Variant>) Variant(T value) : held_(std::move(value)) {}
 
     bool IsEmpty() const { return Is<std::monostate>(); }
     bool IsNumber() const;
