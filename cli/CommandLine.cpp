@@ -192,7 +192,7 @@ private:
 void ProtectNames(std::vector<std::string>& words)
 {
     for (std::string& word : words)
-        if (word == "++" || (word.starts_with('[') && word.ends_with(']'))) word = "./" + word;
+        if (word == "++" || (word.starts_with('[') && word.ends_with(']'))) word.insert(0, "./");
 }
 
 } // namespace

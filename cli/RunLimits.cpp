@@ -21,8 +21,8 @@ std::int64_t MostSamples(const SoundShape& sound)
     const std::int64_t chunk_len = std::int64_t{FrameLength(sound.rate_hz)} * kBlocksPerChunk;
     const std::int64_t by_chunks =
         (std::numeric_limits<std::int16_t>::max() + std::int64_t{1}) * chunk_len - 1;
-    const std::int64_t by_bytes =
-        (std::numeric_limits<std::int32_t>::max() - std::int64_t{50}) / (2 * sound.channels);
+    const std::int64_t by_bytes = (std::numeric_limits<std::int32_t>::max() - std::int64_t{50}) /
+                                  (std::int64_t{2} * sound.channels);
     return std::min(by_chunks, by_bytes);
 }
 

@@ -61,6 +61,7 @@ ClsWsolaQuick::ClsWsolaQuick(VectorWidth width) : kernels_(&EngineKernelsFor(wid
 
 void ClsWsolaQuick::SetUp(const std::int16_t& N, const std::int16_t& S, const std::int16_t& X)
 {
+    Destruct(); // so that sizes that are refused below leave nothing to run on
     BlockLen = N;
     CoarseStep = S;
     ExtraLen = X;
@@ -75,6 +76,7 @@ void ClsWsolaQuick::SetUp(const std::int16_t& N, const std::int16_t& S, const st
     ReadPos = KeepLen;
     WritePos = CInt(N + 1);
     PrevOutCount = N;
+    if (KeepLen < 0) Raise(ErrorNumber::Subscript); // a block is longer than the buffer
 
     coarse_in_len_ = CInt(Quotient(TargetLen + X + N, S) - 1);
     coarse_target_len_ = CInt(Quotient(TargetLen, S) + 1);
@@ -88,7 +90,6 @@ void ClsWsolaQuick::SetUp(const std::int16_t& N, const std::int16_t& S, const st
     Target.assign(Size(TargetLen), 0.0);
     CoarseIn.assign(Size(coarse_in_len_) + kReadAhead, 0.0);
     CoarseTarget.assign(Size(coarse_target_len_), 0.0);
-    Window = HannWindow(FrameLen);
     search_.SetUp(most_shifts);
 
     short_in_.SetUp(Size(InLen), slack, kReadAhead);
@@ -97,6 +98,7 @@ void ClsWsolaQuick::SetUp(const std::int16_t& N, const std::int16_t& S, const st
     short_coarse_target_.assign(CoarseTarget.size() + kReadAhead, 0);
     short_samples_ = InLen;
     target_is_in_shorts_ = true;
+    Window = HannWindow(FrameLen);
 }
 
 void ClsWsolaQuick::Destruct()

@@ -11,9 +11,8 @@ namespace lumora {
 /// move only when the store is used up.
 template <class T> class SlidingBuffer {
 public:
-    /// A window of `length` zeros. `slack` is how far it slides between two moves of samples, and
-    /// the least that one slide may be long; `readable_behind` samples behind the window may be
-    /// read, whatever stands there.
+    /// A window of `length` zeros. `slack` is how far it slides between two moves of samples;
+    /// `readable_behind` samples behind the window may be read, whatever stands there.
     void SetUp(std::size_t length, std::size_t slack, std::size_t readable_behind)
     {
         length_ = length;
