@@ -2,9 +2,8 @@
 
 #include "engine/SoundKinds.h"
 
-#include <cmath>
 #include <gtest/gtest.h>
-#include <string>
+#include <utility>
 #include <vector>
 
 namespace lumora {
@@ -141,36 +140,29 @@ TEST_P(Search, TakesTheFirstAboveZeroOverAWindowWithoutVariance)
     EXPECT_EQ(Best(sound, target, 50), 38U);
 }
 
-// Three windows of two samples over x = 0 1 0 2 0 and the target 0 1. Exact energies are 1, 1, 4:
-// windows "0 1", "1 0", "0 2" correlate 1, -1, 1 and the first stays. One sample ahead, shift 1 is
-// measured with the energy of "0 2" and shift 2 with that of "2 0", 4 and 4, at means 1 and 1.
+// Both energies by hand, in quarters, for windows of two samples and the target 0 1 (mean 1/2,
+// variance 1/2). One ahead, shift 1 is measured with what leaves and enters a sample later.
 TEST_P(Search, MeasuresTheEnergyOneSampleAheadWhereAsked)
 {
-    // A quiet window in front of a loud one: one sample ahead, the loud window at shift 1 is
-    // divided by the energy of the silence behind it, and passes the perfect fit at shift 0.
-    const std::vector<double> sound{0.0, 0.25, 0.0, 1.0, 0.0, 0.25, 0.0, 0.0, 0.0};
-    const std::vector<double> target{0.0, 0.25, 0.0, 1.0};
-    EXPECT_EQ(Best(sound, target, 4, EnergyWindow::Exact), 0U);
-    // By hand, with 4 points, mean y 5/16, sum yy 17/16:
-    //   shift 0: the same either way, coefficient 1.
-    //   shift 2: window 0 1 0 1/4, cross 1/4 + 1/4 = 1/2, exact energy 17/16, mean 5/16: 0.163.
-    //            One ahead: energy and mean of the window at 3, "1 0 1/4 0": the same again.
-    //   shift 1: window 1/4 0 1 0, cross 0; negative.
-    EXPECT_EQ(Best(sound, target, 4, EnergyWindow::OneAhead), 0U);
+    // Window 1 0 at shift 0: coefficient -1. Window 0 1 at shift 1: exactly 1. One ahead its energy
+    // is 1 - 0 + 9 = 10 and its mean 1/2 + 3/2 = 2: (1 - 2) / sqrt((10 - 8) / 2) = -1, no better.
+    const test::Shorts16 target{0, 8192};
+    const test::Shorts16 found{8192, 0, 8192, 24576};
+    // Window 1 1 at shift 0: no variance, 0. Window 1 1/2 at shift 1: exactly -1. One ahead its
+    // energy is 2 - 1 + 1 = 2 and its mean 1 - 1 = 0: (1/2 - 0) / sqrt(2 / 2) = 1/2, better than 0.
+    const test::Shorts16 passed_by{8192, 8192, 4096, -8192};
 
-    // Now the window behind the perfect fit is almost without energy, the one behind a poor fit
-    // too: by its energy the poor one wins.
-    const std::vector<double> steps{0.5, 0.25, 0.0, 0.0, 0.125, 0.0, 0.0, 0.0};
-    const std::vector<double> falling{0.25, 0.125};
-    // Exact: shift 0 "1/2 1/4" correlates 1, and nothing passes it.
-    EXPECT_EQ(Best(steps, falling, 4, EnergyWindow::Exact), 0U);
-    // One ahead: shift 1 "1/4 0", cross 1/16, is measured with energy 0 + 0 and mean ... see below.
-    std::size_t expected = 0;
-    double best = 0;
-    const double energies[] = {0.3125, 0.25 + 0.0625 - 0.0625 - 0.25 + 0.0625 + 0.25 - 0.25, 0, 0};
-    static_cast<void>(energies);
-    static_cast<void>(best);
-    static_cast<void>(expected);
+    const auto best = [&](const test::Shorts16& x, EnergyWindow energy) {
+        const std::size_t place = Best(AsSamples(x), AsSamples(target), 2, energy);
+        if (search.TakesShorts()) {
+            EXPECT_EQ(BestOfShorts(x, target, 2, energy), place);
+        }
+        return place;
+    };
+    EXPECT_EQ(best(found, EnergyWindow::Exact), 1U);
+    EXPECT_EQ(best(found, EnergyWindow::OneAhead), 0U);
+    EXPECT_EQ(best(passed_by, EnergyWindow::Exact), 0U);
+    EXPECT_EQ(best(passed_by, EnergyWindow::OneAhead), 1U);
 }
 
 } // namespace
