@@ -36,6 +36,7 @@ std::string Contents(int file)
     if (!around.folder.empty() && chdir(around.folder.c_str()) != 0) _exit(126);
     around.before();
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words)
         arguments.push_back(word.data());
     arguments.push_back(nullptr);

@@ -20,7 +20,7 @@ protected:
                         const std::string& ahead = "") const
     {
         const std::string head = Wave(FormatChunk(format) + ahead + Chunk("data", "", bytes));
-        const std::string path = folder_.Write("in.wav", head);
+        std::string path = folder_.Write("in.wav", head);
         fs::resize_file(path, head.size() + static_cast<std::size_t>(bytes));
         return path;
     }

@@ -50,6 +50,7 @@ void WriteWithLibrary(const std::string& path, int format, const std::vector<std
     SNDFILE* file = sf_open(path.c_str(), SFM_WRITE, &info);
     if (!file) throw std::runtime_error(path + ": " + sf_strerror(nullptr));
     std::vector<double> values;
+    values.reserve(samples.size());
     for (const std::int16_t sample : samples)
         values.push_back(gain * sample / 32768.0);
     const auto count = static_cast<sf_count_t>(values.size());

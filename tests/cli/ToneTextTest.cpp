@@ -23,10 +23,11 @@ template <class Check> void ForEachSetting(Check&& check)
             check(plus, part);
             check(minus, -part);
             for (int whole = 0; whole < 6; ++whole) {
-                const std::string tones = std::to_string(whole);
-                check(tones + plus, 64 * whole + part);
-                check('+' + tones + plus, 64 * whole + part);
-                check('-' + tones + minus, -64 * whole - part);
+                const std::string up = std::to_string(whole) + plus;
+                const std::string down = std::to_string(-whole) + minus;
+                check(up, 64 * whole + part);
+                check('+' + up, 64 * whole + part);
+                if (whole > 0) check(down, -64 * whole - part);
             }
         }
     }

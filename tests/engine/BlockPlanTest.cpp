@@ -18,7 +18,7 @@ void ExpectPlan(std::int32_t rate_hz, int block_len, int coarse_step, int chunk_
     EXPECT_EQ(plan.BlocksPerChunk, 145) << rate_hz;
 }
 
-TEST(BlockPlan, HoldsTenMillisecondsABlockAndACentOfBlocksAChunk)
+TEST(BlockPlan, HoldsTenMillisecondsABlockAndItsBlocksAChunk)
 {
     ExpectPlan(22050, 220, 5, 31900);
     ExpectPlan(44100, 440, 10, 63800);

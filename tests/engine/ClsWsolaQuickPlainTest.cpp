@@ -36,10 +36,9 @@ struct Sizes {
     int calls; ///< of one sound: fewer where they are longer
 };
 constexpr Sizes kSizes[] = {
-    {2206, 22, 1, 300},    {8000, 80, 2, 200},    {11025, 110, 2, 200},
-    {16000, 160, 4, 120},  {22050, 220, 5, 120},  {32000, 319, 7, 60},
-    {44100, 440, 10, 40},  {48000, 479, 11, 40},  {96000, 958, 22, 16},
-    {192000, 1916, 44, 10},
+    {2206, 22, 1, 300},   {8000, 80, 2, 200},     {11025, 110, 2, 200}, {16000, 160, 4, 120},
+    {22050, 220, 5, 120}, {32000, 319, 7, 60},    {44100, 440, 10, 40}, {48000, 479, 11, 40},
+    {96000, 958, 22, 16}, {192000, 1916, 44, 10},
 };
 
 double SomeScale(Generator& generator)
@@ -158,8 +157,7 @@ protected:
         for (VectorWidth width : VectorWidths())
             for (auto road : {Fast::Road::Spans, Fast::Road::Shorts})
                 cores.push_back(std::make_unique<Fast>(GetParam(), width, road));
-        cores.push_back(
-            std::make_unique<Fast>(GetParam(), WidestVectors(), Fast::Road::Arrays));
+        cores.push_back(std::make_unique<Fast>(GetParam(), WidestVectors(), Fast::Road::Arrays));
         for (std::size_t c = 0; c < calls.size() && !HasFatalFailure(); ++c) {
             const std::vector<double> expected = plain.Operation(calls[c].samples, calls[c].scale);
             for (std::size_t k = 0; k < cores.size() && !HasFatalFailure(); ++k) {
@@ -175,9 +173,8 @@ protected:
 
     Generator generator{static_cast<std::uint64_t>(GetParam().rate_hz)};
 };
-INSTANTIATE_TEST_SUITE_P(Rate, AgainstPlain, testing::ValuesIn(kSizes), [](const auto& one) {
-    return std::to_string(one.param.rate_hz);
-});
+INSTANTIATE_TEST_SUITE_P(Rate, AgainstPlain, testing::ValuesIn(kSizes),
+                         [](const auto& one) { return std::to_string(one.param.rate_hz); });
 
 TEST_P(AgainstPlain, SixteenBitSoundsGiveTheSameBits)
 {

@@ -18,7 +18,8 @@ using Numbers = std::vector<double>;
 
 constexpr double kUntouched = 12345.0;
 
-/// Once for each width of vectors that this machine has; each kernel against the loop it stands for.
+/// Once for each width of vectors that this machine has; each kernel against the loop it stands
+/// for.
 class Kernel : public testing::TestWithParam<VectorWidth> {
 protected:
     const EngineKernels& kernels = EngineKernelsFor(GetParam());
@@ -105,8 +106,8 @@ TEST_P(Kernel, CorrelateOfShortsGivesThePlainSums)
             (count + ShortKernels::kGroup - 1) / ShortKernels::kGroup * ShortKernels::kGroup;
         const std::size_t readable = PaddedShifts(shifts) + padded - 1;
         const bool clipped = round >= 200;
-        const test::Shorts16 x = clipped ? test::ClippedRuns(generator, readable, 40)
-                                         : test::Noise(generator, readable);
+        const test::Shorts16 x =
+            clipped ? test::ClippedRuns(generator, readable, 40) : test::Noise(generator, readable);
         // The target keeps clear of the lowest value: two products of it overflow.
         test::Shorts16 y = clipped ? test::ClippedRuns(generator, count, 40)
                                    : test::Noise(generator, count, -32767);
@@ -159,16 +160,16 @@ TEST_P(Kernel, CoefficientsArePearsonsByTheStatedFormula)
         for (std::size_t k = 0; k < shifts; ++k) {
             mean_x[k] = Between(generator, -100, 100) / 300.0;
             // Variances from clearly positive over the bound of silence to below zero.
-            const double variance = std::ldexp(Between(generator, -1, 9), -Between(generator, 0, 60));
+            const double variance =
+                std::ldexp(Between(generator, -1, 9), -Between(generator, 0, 60));
             sum_xx[k] = 89.0 * (mean_x[k] * mean_x[k]) + variance;
             cross[k] = Between(generator, -1000, 1000) / 700.0;
         }
         Numbers expected;
         for (std::size_t k = 0; k < shifts; ++k) {
             const double product = (sum_xx[k] - 89.0 * (mean_x[k] * mean_x[k])) * 3.25;
-            expected.push_back(product <= 1e-16 ? 0.0
-                                                : (cross[k] - 89.0 * mean_x[k] * 0.01) /
-                                                      std::sqrt(product));
+            expected.push_back(
+                product <= 1e-16 ? 0.0 : (cross[k] - 89.0 * mean_x[k] * 0.01) / std::sqrt(product));
         }
         kernels.coefficients(sum_xx.data(), mean_x.data(), cross.data(), shifts, target);
         for (std::size_t k = 0; k < shifts; ++k)

@@ -121,8 +121,10 @@ TEST_P(Search, StaysAtTheFirstShiftInSilence)
     const test::Shorts16 noise = test::Noise(generator, 120);
     const test::Shorts16 window(noise.begin(), noise.begin() + 32);
     for (EnergyWindow energy : {EnergyWindow::Exact, EnergyWindow::OneAhead})
-        for (const auto& [x, y] : {std::pair{silence, window}, {constant, window},
-                                   {noise, test::Shorts16(32, 0)}, {noise, test::Shorts16(32, 64)},
+        for (const auto& [x, y] : {std::pair{silence, window},
+                                   {constant, window},
+                                   {noise, test::Shorts16(32, 0)},
+                                   {noise, test::Shorts16(32, 64)},
                                    {silence, test::Shorts16(32, 0)}}) {
             EXPECT_EQ(Best(AsSamples(x), AsSamples(y), 60, energy), 0U);
             if (search.TakesShorts()) {

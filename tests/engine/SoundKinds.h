@@ -53,8 +53,10 @@ inline Shorts16 ClippedRuns(Generator& generator, std::size_t count, std::size_t
         const int kind = Between(generator, 0, 4);
         const int run = Between(generator, 1, static_cast<int>(longest));
         for (int i = 0; i < run; ++i)
-            sound.push_back(static_cast<std::int16_t>(
-                kind <= 1 ? -32768 : kind <= 3 ? 32767 : Between(generator, -32768, 32767)));
+            sound.push_back(static_cast<std::int16_t>(kind <= 1 ? -32768
+                                                      : kind <= 3
+                                                          ? 32767
+                                                          : Between(generator, -32768, 32767)));
     }
     sound.resize(count);
     return sound;
