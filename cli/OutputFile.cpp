@@ -69,7 +69,7 @@ OutputFile::OutputFile(const std::string& name, Existing existing, Folder folder
 std::string OutputFile::Fault() const
 {
     struct stat status = {};
-    if (stat(target_.c_str(), &status) == 0) {
+    if (stat(name_.c_str(), &status) == 0) {
         if (S_ISDIR(status.st_mode))
             return "is a folder; give the name of a file, or --out-dir " + name_;
         if (!S_ISREG(status.st_mode)) return "is a pipe or a device; give the name of a file";

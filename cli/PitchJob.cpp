@@ -90,11 +90,11 @@ private:
                        " of " + LengthText(promised, figures_.rate_hz) +
                        " are there, and these are used");
         if (count.clipped > 0)
-            link_.Note(std::to_string(count.clipped) +
-                       " values beyond full scale were clipped; a quieter source avoids that");
+            link_.Note("values beyond full scale that were clipped: " +
+                       std::to_string(count.clipped) + "; a quieter source avoids that");
         if (count.not_a_number > 0)
-            link_.Note(std::to_string(count.not_a_number) +
-                       " values that are no numbers were taken as silence");
+            link_.Note("values that are no numbers, taken as silence: " +
+                       std::to_string(count.not_a_number));
     }
 
     void ChangePitch(const std::string& input)

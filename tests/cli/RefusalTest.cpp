@@ -132,6 +132,7 @@ INSTANTIATE_TEST_SUITE_P(BadOutput, Refusal, testing::Values(
     BadOutput("pipe", "is a pipe or a device"),
     BadOutput("/dev/full", "is a pipe or a device"),
     BadOutput("/dev/null", "is a pipe or a device"),
+    BadOutput("/dev/stdin", "is a pipe or a device"),
     BadOutput("nowhere/out.wav", "cannot be written: there is no folder nowhere"),
     BadOutput("good.wav/out.wav", "cannot be written (not a directory)"),
     BadOutput("newname/", "is not the name of a file"),

@@ -30,17 +30,24 @@ protected:
         fs::resize_file(in_, 44 + kBytes);
     }
 
-    /// Waits until the run has written the first of its temporary.
-    void AwaitWork() const
+    /// Temporaries in which there is something already.
+    int FilesUnderWay() const
+    {
+        int count = 0;
+        for (const auto& entry : fs::directory_iterator(folder_.Path())) {
+            std::error_code gone;
+            const bool hidden = entry.path().filename().string().front() == '.';
+            if (hidden && fs::file_size(entry, gone) > 100000 && !gone) ++count;
+        }
+        return count;
+    }
+
+    /// Waits until so many files are worked on.
+    void AwaitWork(int files = 1) const
     {
         for (const auto end = std::chrono::steady_clock::now() + 60s;
-             std::chrono::steady_clock::now() < end; std::this_thread::sleep_for(1ms)) {
-            for (const auto& entry : fs::directory_iterator(folder_.Path())) {
-                std::error_code gone;
-                const bool hidden = entry.path().filename().string().front() == '.';
-                if (hidden && fs::file_size(entry, gone) > 100000 && !gone) return;
-            }
-        }
+             std::chrono::steady_clock::now() < end; std::this_thread::sleep_for(1ms))
+            if (FilesUnderWay() >= files) return;
         FAIL() << "no work was seen";
     }
 
@@ -76,6 +83,23 @@ TEST_F(Stop, ControlCReachesTheWholeGroupAndLeavesNoPartialFile)
     command.SignalGroup(SIGINT);
     EXPECT_EQ(command.Wait().status, 128 + SIGINT);
     EXPECT_EQ(NamesIn(folder_.Path()), Names{"in.wav"});
+}
+
+TEST_F(Stop, JobsSaysHowManyFilesAreWorkedOnSideBySide)
+{
+    for (const char* twin : {"b.wav", "c.wav"})
+        fs::create_hard_link(in_, folder_ / twin);
+    for (const int jobs : {1, 2}) {
+        RunningCommand command(LumoraWords({"pitch", in_, folder_ / "b.wav", folder_ / "c.wav",
+                                            "--out-dir", folder_ / "out/..", "--tones", "1",
+                                            "--jobs", std::to_string(jobs)}),
+                               {.before = [] {}});
+        AwaitWork(jobs);
+        std::this_thread::sleep_for(20ms);
+        EXPECT_EQ(FilesUnderWay(), jobs);
+        command.Signal(SIGINT);
+        EXPECT_EQ(command.Wait().status, 130);
+    }
 }
 
 TEST_F(Stop, OutputsThatWereCompleteStay)

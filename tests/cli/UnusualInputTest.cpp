@@ -86,6 +86,14 @@ TEST_F(UnusualInput, AChunkBehindTheSoundIsNoReasonToConvert)
     ExpectResultOf(Tune(kFrames));
 }
 
+TEST_F(UnusualInput, ABlockAlignmentThatDoesNotFitIsNotTrusted)
+{
+    std::string wave = TuneWave(kFrames);
+    wave.replace(32, 2, Le16(4));
+    ExpectConverted(folder_.Write("in.wav", wave), "its block alignment does not fit its samples");
+    ExpectResultOf(Tune(kFrames));
+}
+
 TEST_F(UnusualInput, TwentyFourBitsAreRoundedHalfToEven)
 {
     // 24-bit samples a quarter, a half and three quarters of a 16-bit step above each tune sample.
@@ -133,9 +141,10 @@ TEST_F(UnusualInput, FloatSamplesBeyondFullScaleAreClippedAndCounted)
     put(1.5F / 32768.0F, 2);
     put(-2.5F / 32768.0F, -2);
     const Json result = Run(folder_.Write("in.wav", PlainWave({.bits = 32, .tag = 3}, bytes)));
-    const Json expected = {std::string(kConverted) + "its samples are not plain PCM (format tag 3)",
-                           "4 values beyond full scale were clipped; a quieter source avoids that",
-                           "1 values that are no numbers were taken as silence"};
+    const Json expected = {
+        std::string(kConverted) + "its samples are not plain PCM (format tag 3)",
+        "values beyond full scale that were clipped: 4; a quieter source avoids that",
+        "values that are no numbers, taken as silence: 1"};
     EXPECT_EQ(result.at("notes"), expected);
     ExpectResultOf(samples);
 }
@@ -244,6 +253,18 @@ TEST_F(UnusualInput, AFlacThatIsCutShortIsUsedAsFarAsItGoes)
     EXPECT_EQ(note.rfind("the file is cut short: ", 0), 0U) << note;
     const auto samples = Tune(kFrames);
     ExpectResultOf({samples.begin(), samples.begin() + there});
+}
+
+TEST_F(UnusualInput, DecodersOwnRemarksAreNotShown)
+{
+    const std::string in = folder_ / "in.mp3";
+    WriteWithLibrary(in, SF_FORMAT_MPEG | SF_FORMAT_MPEG_LAYER_III, Tune(kFrames), 1, 44100);
+    const std::string whole = BytesOf(in);
+    folder_.Write("in.mp3", whole.substr(0, whole.size() * 2 / 3)); // its decoder grumbles at this
+    EXPECT_EQ(Run(in).at("ok"), true);
+    const CommandResult info = Lumora({"info", in});
+    EXPECT_EQ(info.status, 0);
+    EXPECT_EQ(info.err, "");
 }
 
 TEST_F(UnusualInput, AHeaderThatWasNeverCompletedMeansTheRestOfTheFile)

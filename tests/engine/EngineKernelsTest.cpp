@@ -232,7 +232,7 @@ TEST_P(Kernel, TakeEveryOtherKeepsOneChannelOfTwo)
 {
     for (std::size_t count = 1; count <= 200; ++count) {
         const test::Shorts16 interleaved = test::Noise(generator, 2 * count);
-        for (std::size_t channel : {0, 1}) {
+        for (std::size_t channel : {0U, 1U}) {
             test::Shorts16 frame(count + 1, 77);
             // The last frame ends with the array: channel 2 has one value less behind its first.
             kernels.take_every_other(interleaved.data() + channel, count, frame.data());

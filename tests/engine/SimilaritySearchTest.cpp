@@ -101,7 +101,7 @@ TEST_P(Search, KeepsTheEarliestOfEquals)
 {
     // Whole numbers: the running sums of equal windows are exactly equal.
     Generator generator(4);
-    for (std::size_t period : {8, 16, 32}) {
+    for (std::size_t period : {8U, 16U, 32U}) {
         const test::Shorts16 sound = test::Periodic(generator, 200, period);
         const auto from = sound.begin() + 5;
         // Windows of a power of two, so that means are exact and equal as well.

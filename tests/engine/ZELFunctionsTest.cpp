@@ -125,7 +125,7 @@ TEST_F(Facade, SaysThatItNeedsAFileWhenTheNameIsEmptyOrNotThere)
 
 TEST_F(Facade, RunsMonoAndStereoByTheHeader)
 {
-    for (std::size_t channels : {1, 2}) {
+    for (std::size_t channels : {1U, 2U}) {
         const Sound sound = Music(channels, 4000);
         ZELFunctions object;
         object.InFileName = folder.Write("in.wav", test::FileOf(sound, kRate));
