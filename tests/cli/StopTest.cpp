@@ -34,7 +34,7 @@ protected:
     int FilesUnderWay() const
     {
         int count = 0;
-        for (const auto& entry : fs::directory_iterator(folder_.Path())) {
+        for (const auto& entry : fs::recursive_directory_iterator(folder_.Path())) {
             std::error_code gone;
             const bool hidden = entry.path().filename().string().front() == '.';
             if (hidden && fs::file_size(entry, gone) > 100000 && !gone) ++count;
@@ -90,10 +90,9 @@ TEST_F(Stop, JobsSaysHowManyFilesAreWorkedOnSideBySide)
     for (const char* twin : {"b.wav", "c.wav"})
         fs::create_hard_link(in_, folder_ / twin);
     for (const int jobs : {1, 2}) {
-        RunningCommand command(LumoraWords({"pitch", in_, folder_ / "b.wav", folder_ / "c.wav",
-                                            "--out-dir", folder_ / "out/..", "--tones", "1",
-                                            "--jobs", std::to_string(jobs)}),
-                               {.before = [] {}});
+        RunningCommand command(
+            LumoraWords({"pitch", in_, folder_ / "b.wav", folder_ / "c.wav", "--out-dir",
+                         folder_ / "out", "--tones", "1", "--jobs", std::to_string(jobs)}));
         AwaitWork(jobs);
         std::this_thread::sleep_for(20ms);
         EXPECT_EQ(FilesUnderWay(), jobs);

@@ -89,7 +89,7 @@ TEST_F(UnusualInput, AChunkBehindTheSoundIsNoReasonToConvert)
 TEST_F(UnusualInput, ABlockAlignmentThatDoesNotFitIsNotTrusted)
 {
     std::string wave = TuneWave(kFrames);
-    wave.replace(32, 2, Le16(4));
+    wave[32] = 4; // bytes of a frame: 2 in truth
     ExpectConverted(folder_.Write("in.wav", wave), "its block alignment does not fit its samples");
     ExpectResultOf(Tune(kFrames));
 }
