@@ -11,6 +11,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
+#include <ostream>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -38,6 +39,10 @@ struct Sizes {
     int N, S;
     int calls; ///< of one sound: fewer where they are longer
 };
+void PrintTo(const Sizes& sizes, std::ostream* out)
+{
+    *out << sizes.rate_hz << " Hz";
+}
 constexpr Sizes kSizes[] = {
     {2206, 22, 1, 300},   {8000, 80, 2, 200},     {11025, 110, 2, 200}, {16000, 160, 4, 120},
     {22050, 220, 5, 120}, {32000, 319, 7, 60},    {44100, 440, 10, 40}, {48000, 479, 11, 40},
