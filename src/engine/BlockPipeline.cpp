@@ -85,7 +85,8 @@ private:
     {
         Read(first, last);
         const bool stereo = channels_ == 2;
-        if (samples_.Dimensions() != (stereo ? 2 : 1)) Raise(ErrorNumber::Subscript);
+        const std::int64_t there = samples_.Dimensions() == 1 ? 1 : samples_.UBound(1);
+        if (there != static_cast<std::int64_t>(channels_)) Raise(ErrorNumber::Subscript);
         const std::int64_t length = samples_.UBound(stereo ? 2 : 1);
         const std::int64_t blocks = length / plan_.BlockLen;
         if (blocks == 0) {

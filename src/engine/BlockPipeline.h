@@ -24,9 +24,10 @@ struct PitchRun {
 /// The resampler's one surviving sample goes from run to run: a run that must not depend on the one
 /// before takes a fresh BlockResampler.
 ///
-/// Errors: 9 for a file shorter than one block (nothing is written), for a width other than 8 or
-/// 16 bits, for channels that differ from the file's, and for a scale 1 / Q_P above 2.0; 6 or 11
-/// for a rate outside 2206 to 820,510 Hz; those of ReadWaveShorts, WriteNewWave and AppendWave.
+/// Errors: 5 for Channels other than 1 or 2; 9 for a file shorter than one block (nothing is
+/// written), for a width other than 8 or 16 bits, for channels that differ from the file's, and for
+/// a scale 1 / Q_P above 2.0; 6 or 11 for a rate outside 2206 to 820,510 Hz; those of
+/// ReadWaveShorts, WriteNewWave and AppendWave.
 void RunBlockPipeline(const PitchRun& run, BlockResampler& resampler, const RunHooks& hooks);
 
 } // namespace lumora

@@ -13,7 +13,7 @@ std::int32_t BlockResampler::LengthFor(std::size_t n, double rate)
 
 void BlockResampler::MakePlan(std::size_t n, double rate, std::size_t m)
 {
-    const double step = Divide(1.0, rate);
+    const double step = 1.0 / rate;
     const auto whole = rate > 1.0 ? static_cast<std::size_t>(Int(rate)) : 0;
     if (whole > m) Raise(ErrorNumber::Subscript);
     planned_n_ = 0; // no plan if an index is refused below

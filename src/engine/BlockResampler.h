@@ -25,8 +25,8 @@ public:
     /// Round(n x Rate), half to even: what becomes of n samples. Error 6 beyond 32 bits.
     static std::int32_t LengthFor(std::size_t n, double rate);
 
-    /// Resamples into `dest`, which is LengthFor(source.size(), rate) long. Errors: 9 (an empty
-    /// source or result, another length, a rate that reads beyond the source), 11 (rate 0).
+    /// Resamples into `dest`, which is LengthFor(source.size(), rate) long. Error 9: an empty
+    /// source or result (a rate near 0), another length.
     void Resample(std::span<const double> source, double rate, std::span<double> dest);
 
 private:
