@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # bench/peers.sh [--runs N] builds lumora and times it beside its peers on five minutes of stereo:
-#     apt-get install soundstretch sox ffmpeg rubberband-cli
+#     apt-get install soundstretch sox ffmpeg rubberband-cli time
 #     bench/peers.sh
 set -euo pipefail
 

@@ -23,14 +23,13 @@ struct SettingOption {
     PitchSetting (*read)(const std::string&);
 };
 
-// clang-format off
 constexpr SettingOption kSettings[] = {
-    {"--tones",   "T", "Whole tones and a fraction, -6 to 6: +1, 1/64, -2-3/8", PitchSetting::FromTones},
-    {"--octaves", "X", "Octaves, -1 to 1",                                      PitchSetting::FromOctaves},
-    {"--cents",   "C", "Cents, -1200 to 1200",                                  PitchSetting::FromCents},
-    {"--q-p",     "Q", "Old pitch over new pitch, 0.5 to 2.0",                  PitchSetting::FromQuotient},
+    {"--tones", "T", "Whole tones and a fraction, -6 to 6: +1, 1/64, -2-3/8",
+     PitchSetting::FromTones},
+    {"--octaves", "X", "Octaves, -1 to 1", PitchSetting::FromOctaves},
+    {"--cents", "C", "Cents, -1200 to 1200", PitchSetting::FromCents},
+    {"--q-p", "Q", "Old pitch over new pitch, 0.5 to 2.0", PitchSetting::FromQuotient},
 };
-// clang-format on
 
 constexpr char kPitchFooter[] = R"(
 IN is any sound file with one or two channels; what is not a plain 8- or 16-bit

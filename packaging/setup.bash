@@ -3,6 +3,8 @@
 
 # Compiled objects are kept below the project folder, like all else that a build writes.
 export CCACHE_DIR=${CCACHE_DIR:-$root/.cache/ccache}
+# Without this ccache passes by whatever uses a precompiled header.
+export CCACHE_SLOPPINESS=pch_defines,time_macros
 
 say() { printf '%s: %s\n' "${0##*/}" "$*" >&2; }
 

@@ -79,66 +79,73 @@ Refused BadOutput(const std::string& name, const std::string& why)
     return {{"pitch", "good.wav", name, "--tones", "1"}, 1, name + " " + why};
 }
 
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(WrongUsage, Refusal, testing::Values(
-    Usage({}, "say what to do"),
-    Usage({"sing"}, "say what to do"),
-    Usage({"help", "sing"}, "no command sing"),
-    Usage({"pitch"}, "exactly one of --tones, --octaves, --cents and --q-p"),
-    Usage({"pitch", "good.wav", "out.wav"}, "exactly one of"),
-    Usage({"pitch", "good.wav", "out.wav", "--tones", "1", "--cents", "5"}, "exactly one of"),
-    Usage({"pitch", "good.wav", "out.wav", "--tones", "1", "--tones", "2"}, "--tones"),
-    Usage({"pitch", "good.wav", "out.wav", "--tones"}, "--tones"),
-    Usage({"pitch", "good.wav", "out.wav", "--tones", "1/3"}, "--tones 1/3"),
-    Usage({"pitch", "good.wav", "out.wav", "--tones", "-6-1/64"}, "-6 to 6"),
-    Usage({"pitch", "good.wav", "out.wav", "--octaves", "1.5"}, "-1 to 1"),
-    Usage({"pitch", "good.wav", "out.wav", "--cents", "nan"}, "-1200 to 1200"),
-    Usage({"pitch", "good.wav", "out.wav", "--q-p", "0"}, "0.5 to 2.0"),
-    Usage({"pitch", "good.wav", "--tones", "1"}, "an input and an output"),
-    Usage({"pitch", "good.wav", "copy.flac", "out.wav", "--tones", "1"}, "--out-dir"),
-    Usage({"pitch", "--out-dir", "other", "--tones", "1"}, "name the files"),
-    Usage({"pitch", "good.wav", "--out-dir", "", "--tones", "1"}, "--out-dir"),
-    Usage({"pitch", "good.wav", "out.wav", "--tones", "1", "--jobs", "0"}, "--jobs"),
-    Usage({"pitch", "good.wav", "out.wav", "--tones", "1", "--jobs", "257"}, "--jobs"),
-    Usage({"pitch", "good.wav", "out.wav", "--tones", "1", "--jobs", "two"}, "--jobs"),
-    Usage({"pitch", "good.wav", "out.wav", "--tones", "1", "--loud"}, "--loud"),
-    Usage({"pitch", "good.wav", "--out-dir", "other", "--tones", "1", "--", "--loud", "good.wav"}, "good.wav"),
-    Usage({"pitch", "good.wav", "folder/../good.flac", "--out-dir", "other", "--tones", "1"}, "would both be"),
-    Usage({"pitch", "good.wav", "good.wav", "--out-dir", "other", "--tones", "1"}, "would both be"),
-    Usage({"pitch", "good.wav", "good.wav", "--tones", "1", "--force"}, "is an input as well"),
-    Usage({"pitch", "good.wav", "folder/../good.wav", "--tones", "1", "--force"}, "is an input as well"),
-    Usage({"pitch", "good.wav", "twin.wav", "--tones", "1", "--force"}, "is an input as well"),
-    Usage({"pitch", "good.wav", "link.wav", "--tones", "1", "--force"}, "is an input as well"),
-    Usage({"pitch", "copy.flac", "good.wav", "--out-dir", ".", "--tones", "1", "--force"}, "is an input as well"),
-    Usage({"info"}, "name the files"),
-    Usage({"info", "--tones", "1", "good.wav"}, "--tones")));
+INSTANTIATE_TEST_SUITE_P(
+    WrongUsage, Refusal,
+    testing::Values(
+        Usage({}, "say what to do"), Usage({"sing"}, "say what to do"),
+        Usage({"help", "sing"}, "no command sing"),
+        Usage({"pitch"}, "exactly one of --tones, --octaves, --cents and --q-p"),
+        Usage({"pitch", "good.wav", "out.wav"}, "exactly one of"),
+        Usage({"pitch", "good.wav", "out.wav", "--tones", "1", "--cents", "5"}, "exactly one of"),
+        Usage({"pitch", "good.wav", "out.wav", "--tones", "1", "--tones", "2"}, "--tones"),
+        Usage({"pitch", "good.wav", "out.wav", "--tones"}, "--tones"),
+        Usage({"pitch", "good.wav", "out.wav", "--tones", "1/3"}, "--tones 1/3"),
+        Usage({"pitch", "good.wav", "out.wav", "--tones", "-6-1/64"}, "-6 to 6"),
+        Usage({"pitch", "good.wav", "out.wav", "--octaves", "1.5"}, "-1 to 1"),
+        Usage({"pitch", "good.wav", "out.wav", "--cents", "nan"}, "-1200 to 1200"),
+        Usage({"pitch", "good.wav", "out.wav", "--q-p", "0"}, "0.5 to 2.0"),
+        Usage({"pitch", "good.wav", "--tones", "1"}, "an input and an output"),
+        Usage({"pitch", "good.wav", "copy.flac", "out.wav", "--tones", "1"}, "--out-dir"),
+        Usage({"pitch", "--out-dir", "other", "--tones", "1"}, "name the files"),
+        Usage({"pitch", "good.wav", "--out-dir", "", "--tones", "1"}, "--out-dir"),
+        Usage({"pitch", "good.wav", "out.wav", "--tones", "1", "--jobs", "0"}, "--jobs"),
+        Usage({"pitch", "good.wav", "out.wav", "--tones", "1", "--jobs", "257"}, "--jobs"),
+        Usage({"pitch", "good.wav", "out.wav", "--tones", "1", "--jobs", "two"}, "--jobs"),
+        Usage({"pitch", "good.wav", "out.wav", "--tones", "1", "--loud"}, "--loud"),
+        Usage({"pitch", "good.wav", "--out-dir", "other", "--tones", "1", "--", "--loud",
+               "good.wav"},
+              "good.wav"),
+        Usage({"pitch", "good.wav", "folder/../good.flac", "--out-dir", "other", "--tones", "1"},
+              "would both be"),
+        Usage({"pitch", "good.wav", "good.wav", "--out-dir", "other", "--tones", "1"},
+              "would both be"),
+        Usage({"pitch", "good.wav", "good.wav", "--tones", "1", "--force"}, "is an input as well"),
+        Usage({"pitch", "good.wav", "folder/../good.wav", "--tones", "1", "--force"},
+              "is an input as well"),
+        Usage({"pitch", "good.wav", "twin.wav", "--tones", "1", "--force"}, "is an input as well"),
+        Usage({"pitch", "good.wav", "link.wav", "--tones", "1", "--force"}, "is an input as well"),
+        Usage({"pitch", "copy.flac", "good.wav", "--out-dir", ".", "--tones", "1", "--force"},
+              "is an input as well"),
+        Usage({"info"}, "name the files"), Usage({"info", "--tones", "1", "good.wav"}, "--tones")));
 
-INSTANTIATE_TEST_SUITE_P(BadInput, Refusal, testing::Values(
-    BadFile("missing.wav", "there is no such file"),
-    BadFile("good.wav/x", "cannot be reached (not a directory)"),
-    BadFile("folder", "is a folder"),
-    BadFile("pipe", "is a pipe or a device"),
-    BadFile("/dev/zero", "is a pipe or a device"),
-    BadFile("empty.wav", "is empty"),
-    BadFile("text.wav", "cannot be read as sound"),
-    BadFile("short.wav", "it is too short: 219 samples (9.93 ms), and at least 220 samples (9.98 ms), one block, are needed"),
-    BadFile("slow.wav", "its rate is 2205 Hz, and 2206 to 820510 Hz can be worked on"),
-    BadFile("fast.wav", "its rate is 820511 Hz, and 2206 to 820510 Hz can be worked on"),
-    BadFile("many.wav", "it has 6 channels, and 1 or 2 can be worked on")));
+INSTANTIATE_TEST_SUITE_P(
+    BadInput, Refusal,
+    testing::Values(
+        BadFile("missing.wav", "there is no such file"),
+        BadFile("good.wav/x", "cannot be reached (not a directory)"),
+        BadFile("folder", "is a folder"), BadFile("pipe", "is a pipe or a device"),
+        BadFile("/dev/zero", "is a pipe or a device"), BadFile("empty.wav", "is empty"),
+        BadFile("text.wav", "cannot be read as sound"),
+        BadFile("short.wav", "it is too short: 219 samples (9.93 ms), and at least 220 samples "
+                             "(9.98 ms), one block, are needed"),
+        BadFile("slow.wav", "its rate is 2205 Hz, and 2206 to 820510 Hz can be worked on"),
+        BadFile("fast.wav", "its rate is 820511 Hz, and 2206 to 820510 Hz can be worked on"),
+        BadFile("many.wav", "it has 6 channels, and 1 or 2 can be worked on")));
 
-INSTANTIATE_TEST_SUITE_P(BadOutput, Refusal, testing::Values(
-    BadOutput("old.wav", "exists already; give another name, or --force"),
-    BadOutput("folder", "is a folder"),
-    BadOutput("pipe", "is a pipe or a device"),
-    BadOutput("/dev/full", "is a pipe or a device"),
-    BadOutput("/dev/null", "is a pipe or a device"),
-    BadOutput("/dev/stdin", "is a pipe or a device"),
-    BadOutput("nowhere/out.wav", "cannot be written: there is no folder nowhere"),
-    BadOutput("good.wav/out.wav", "cannot be written (not a directory)"),
-    BadOutput("newname/", "is not the name of a file"),
-    Refused{{"pitch", "good.wav", "folder", "--tones", "1", "--force"}, 1, "is a folder"},
-    Refused{{"pitch", "good.wav", "--out-dir", "old.wav", "--tones", "1"}, 1, "not a directory"}));
-// clang-format on
+INSTANTIATE_TEST_SUITE_P(
+    BadOutput, Refusal,
+    testing::Values(
+        BadOutput("old.wav", "exists already; give another name, or --force"),
+        BadOutput("folder", "is a folder"), BadOutput("pipe", "is a pipe or a device"),
+        BadOutput("/dev/full", "is a pipe or a device"),
+        BadOutput("/dev/null", "is a pipe or a device"),
+        BadOutput("/dev/stdin", "is a pipe or a device"),
+        BadOutput("nowhere/out.wav", "cannot be written: there is no folder nowhere"),
+        BadOutput("good.wav/out.wav", "cannot be written (not a directory)"),
+        BadOutput("newname/", "is not the name of a file"),
+        Refused{{"pitch", "good.wav", "folder", "--tones", "1", "--force"}, 1, "is a folder"},
+        Refused{
+            {"pitch", "good.wav", "--out-dir", "old.wav", "--tones", "1"}, 1, "not a directory"}));
 
 using RefusalInJson = Refusal;
 
