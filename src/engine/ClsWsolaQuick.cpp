@@ -249,8 +249,8 @@ void ClsWsolaQuick::Decimate(std::span<const T> Source, std::span<T> Dest, std::
                              std::int16_t Last) const
 {
     CheckRange(First, Last, static_cast<int>(Source.size()));
-    if (Dest.size() < static_cast<std::size_t>((Last - First) / CoarseStep + 1))
-        Raise(ErrorNumber::Subscript);
+    const int count = (Last - First) / CoarseStep + 1;
+    if (Dest.size() < static_cast<std::size_t>(count)) Raise(ErrorNumber::Subscript);
     std::size_t slot = 0;
     for (int i = First; i <= Last; i += CoarseStep)
         Dest[slot++] = Source[static_cast<std::size_t>(Place(i))];
