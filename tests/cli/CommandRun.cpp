@@ -91,10 +91,11 @@ CommandResult RunningCommand::Wait()
     return {code, Contents(out_), Contents(err_)};
 }
 
-std::vector<std::string> LumoraWords(std::vector<std::string> arguments)
+std::vector<std::string> LumoraWords(const std::vector<std::string>& arguments)
 {
-    arguments.insert(arguments.begin(), LUMORA_COMMAND);
-    return arguments;
+    std::vector<std::string> words{LUMORA_COMMAND};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    return words;
 }
 
 CommandResult Lumora(std::vector<std::string> arguments, const Surroundings& around)

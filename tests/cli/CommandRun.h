@@ -43,7 +43,7 @@ private:
 };
 
 /// Starts the real command `lumora` with these arguments.
-std::vector<std::string> LumoraWords(std::vector<std::string> arguments);
+std::vector<std::string> LumoraWords(const std::vector<std::string>& arguments);
 /// Runs it to its end.
 CommandResult Lumora(std::vector<std::string> arguments, const Surroundings& around = {});
 
