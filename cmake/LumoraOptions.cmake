@@ -11,7 +11,7 @@ target_compile_options(lumora_options INTERFACE
   -Wno-psabi
   # g++ 12 sees both of these in its own inlined std::string, at some lengths of a literal: whether
   # a test builds would hang on the name of the folder. clang++ and the sanitizers look for them.
-  $<$<CXX_COMPILER_ID:GNU>:-Wno-array-bounds$<SEMICOLON>-Wno-restrict>
+  $<$<CXX_COMPILER_ID:GNU>:-Wno-array-bounds$<SEMICOLON>-Wno-restrict$<SEMICOLON>-Wno-stringop-overread>
   $<$<BOOL:${LUMORA_WERROR}>:-Werror>)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
