@@ -29,6 +29,9 @@ std::string Contents(int file)
 [[noreturn]] void BecomeProgram(std::vector<std::string>& words, const Surroundings& around,
                                 int out, int err)
 {
+    // Whoever runs the tests may ignore some, as nohup does.
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGPIPE, SIGXFSZ})
+        std::signal(signal, SIG_DFL);
     const int nothing = open("/dev/null", O_RDONLY);
     dup2(nothing, STDIN_FILENO);
     dup2(around.standard_output >= 0 ? around.standard_output : out, STDOUT_FILENO);

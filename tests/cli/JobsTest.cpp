@@ -1,4 +1,5 @@
 #include "cli/CommandRun.h"
+#include "cli/SameBytes.h"
 #include "cli/Sounds.h"
 
 #include <gtest/gtest.h>
@@ -45,7 +46,8 @@ TEST_F(Jobs, SideBySideGivesTheBytesOfOneAfterAnother)
     ASSERT_EQ(Run("four", {"--jobs", "4"}).status, 0);
     for (std::size_t k = 0; k < inputs_.size(); ++k) {
         const std::string name = "in" + std::to_string(k) + ".wav";
-        EXPECT_EQ(BytesOf(folder_ / ("four/" + name)), BytesOf(folder_ / ("one/" + name))) << name;
+        EXPECT_TRUE(HoldsBytes(folder_ / ("four/" + name), BytesOf(folder_ / ("one/" + name))))
+            << name;
     }
     EXPECT_EQ(NamesIn(folder_ / "four").size(), inputs_.size());
 }
@@ -56,7 +58,7 @@ TEST_F(Jobs, AFilesResultDoesNotDependOnTheFilesBeforeIt)
     const CommandResult alone =
         Lumora({"pitch", inputs_[5], folder_ / "alone.wav", "--tones", "+1/8"});
     ASSERT_EQ(alone.status, 0);
-    EXPECT_EQ(BytesOf(folder_ / "all/in5.wav"), BytesOf(folder_ / "alone.wav"));
+    EXPECT_TRUE(HoldsBytes(folder_ / "all/in5.wav", BytesOf(folder_ / "alone.wav")));
 }
 
 TEST_F(Jobs, ResultsAreToldInTheOrderOfTheInputs)
@@ -89,7 +91,7 @@ TEST_F(Jobs, BadFilesAreReportedAndDoNotStopTheRest)
                                 "missing.wav: there is no such file", "in2.wav exists already"})
             EXPECT_NE(run.err.find(why), std::string::npos) << run.err;
         EXPECT_EQ(NamesIn(folder_ / "out").size(), 10U);
-        EXPECT_EQ(BytesOf(folder_ / "out/in2.wav"), "old");
+        EXPECT_TRUE(HoldsBytes(folder_ / "out/in2.wav", "old"));
         for (const std::string& name : NamesIn(folder_ / "out"))
             if (name != "in2.wav") std::remove((folder_ / ("out/" + name)).c_str());
     }

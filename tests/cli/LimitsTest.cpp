@@ -1,4 +1,5 @@
 #include "cli/CommandRun.h"
+#include "cli/SameBytes.h"
 #include "cli/Sounds.h"
 
 #include <gtest/gtest.h>
@@ -38,7 +39,7 @@ TEST_F(Limits, TheLowestAndTheHighestRateRun)
     for (const std::int32_t rate_hz : {2206, 820510}) {
         const std::string in = folder_.Write("in.wav", TuneWave(20000, 1, rate_hz));
         EXPECT_EQ(Run(in).status, 0) << rate_hz;
-        EXPECT_EQ(BytesOf(folder_ / "out.wav"), EngineResult(in, std::exp2(-1.0 / 6.0)));
+        EXPECT_TRUE(HoldsBytes(folder_ / "out.wav", EngineResult(in, std::exp2(-1.0 / 6.0))));
         fs::remove(folder_ / "out.wav");
     }
 }

@@ -1,5 +1,6 @@
 #include "cli/OutputFile.h"
 #include "cli/JobFailure.h"
+#include "cli/SameBytes.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -25,7 +26,7 @@ TEST(OutputFile, TheResultGetsItsNameWhenItIsCommitted)
     Put(output.Result(), "new");
     EXPECT_FALSE(fs::exists(folder / "out.wav"));
     output.Commit();
-    EXPECT_EQ(BytesOf(folder / "out.wav"), "new");
+    EXPECT_TRUE(HoldsBytes(folder / "out.wav", "new"));
     EXPECT_FALSE(fs::exists(output.Result()));
 }
 
@@ -37,7 +38,7 @@ TEST(OutputFile, AFileThatAppearsMeanwhileIsKept)
     folder.Write("out.wav", "mine");
     EXPECT_THROW(output.Commit(), JobFailure);
     output.Discard();
-    EXPECT_EQ(BytesOf(folder / "out.wav"), "mine");
+    EXPECT_TRUE(HoldsBytes(folder / "out.wav", "mine"));
     EXPECT_FALSE(fs::exists(output.Result()));
 }
 
@@ -50,7 +51,7 @@ TEST(OutputFile, AFileThatMayBeReplacedIsReplaced)
     output.Prepare();
     Put(output.Result(), "new");
     output.Commit();
-    EXPECT_EQ(BytesOf(folder / "out.wav"), "new");
+    EXPECT_TRUE(HoldsBytes(folder / "out.wav", "new"));
 }
 
 TEST(OutputFile, AFolderThatAppearsMeanwhileIsReported)
@@ -85,7 +86,7 @@ TEST(OutputFile, DiscardRemovesBothTemporariesAndNothingElse)
     Put(output.Converted(), "input");
     output.Discard();
     EXPECT_FALSE(fs::exists(output.Result()) || fs::exists(output.Converted()));
-    EXPECT_EQ(BytesOf(folder / "out.wav"), "old");
+    EXPECT_TRUE(HoldsBytes(folder / "out.wav", "old"));
 }
 
 TEST(OutputFile, LinksThatGoRoundInACircleAreAFault)

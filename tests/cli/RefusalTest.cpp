@@ -1,4 +1,5 @@
 #include "cli/CommandRun.h"
+#include "cli/SameBytes.h"
 #include "cli/Sounds.h"
 
 #include <gtest/gtest.h>
@@ -62,8 +63,8 @@ TEST_P(Refusal, SaysWhyAndLeavesNothingBehind)
     EXPECT_NE(result.err.find(why), std::string::npos) << result.err;
     EXPECT_EQ(NamesIn(folder_.Path()), before);
     EXPECT_EQ(NamesIn(folder_ / "other"), Names{});
-    EXPECT_EQ(BytesOf(folder_ / "old.wav"), "old");
-    EXPECT_EQ(BytesOf(folder_ / "good.wav"), TuneWave(5000));
+    EXPECT_TRUE(HoldsBytes(folder_ / "old.wav", "old"));
+    EXPECT_TRUE(HoldsBytes(folder_ / "good.wav", TuneWave(5000)));
 }
 
 Refused Usage(Names words, const std::string& why)

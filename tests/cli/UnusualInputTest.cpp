@@ -1,4 +1,5 @@
 #include "cli/CommandRun.h"
+#include "cli/SameBytes.h"
 #include "cli/Sounds.h"
 
 #include <gtest/gtest.h>
@@ -35,7 +36,7 @@ protected:
         const std::string plain =
             folder_.Write("plain.wav", PlainWave({.channels = channels}, BytesOfSamples(samples)));
         const double one_tone_up = std::exp2(-1.0 / 6.0);
-        EXPECT_EQ(BytesOf(folder_ / "out.wav"), EngineResult(plain, one_tone_up, channels));
+        EXPECT_TRUE(HoldsBytes(folder_ / "out.wav", EngineResult(plain, one_tone_up, channels)));
     }
 
     /// Runs a file that the engine's reader refuses; its one note must give this reason.
