@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <memory>
 #include <new>
 #include <span>
 #include <stdexcept>
@@ -30,6 +31,19 @@ struct Bounds {
     }
     bool Holds(std::int64_t i) const { return i >= lower && i <= upper; }
     bool operator==(const Bounds&) const = default;
+};
+
+/// Gives a vector memory that nobody has written yet: who resizes writes every element anyway, and
+/// filling a large array twice costs more than computing it.
+template <class T> struct UnwrittenMemory : std::allocator<T> {
+    template <class U> struct rebind { // NOLINT(readability-identifier-naming): the standard's name
+        using other = UnwrittenMemory<U>;
+    };
+    template <class U> void construct(U* place) { ::new (static_cast<void*>(place)) U; }
+    template <class U, class... Values> void construct(U* place, Values&&... values)
+    {
+        std::construct_at(place, std::forward<Values>(values)...);
+    }
 };
 
 /// The plain array of the whole system: one or two dimensions, lower bounds of choice (1 unless
@@ -70,6 +84,24 @@ public:
     /// that is large enough is used again, so a loop that keeps its array allocates once.
     void ReDimForOverwrite(Bounds first) { Reshape(1, first, {1, 1}); }
     void ReDimForOverwrite(Bounds first, Bounds second) { Reshape(2, first, second); }
+
+    /// Another upper bound for the last dimension; the elements that stay keep their places and
+    /// new ones are zero-filled. Errors 9 (no dimension, or an empty shape) and 7.
+    void ReDimPreserve(std::int64_t upper)
+    {
+        const std::size_t kept = store_.size();
+        const Bounds last{At(dimensions_).lower, upper};
+        if (dimensions_ == 1)
+            Reshape(1, last, {1, 1});
+        else
+            Reshape(2, bounds_[0], last);
+        if (store_.size() > kept)
+            std::fill(store_.begin() + static_cast<std::ptrdiff_t>(kept), store_.end(), T{});
+    }
+
+    /// Other bounds over the same elements in the same order. Error 9 if the counts differ.
+    void Rebase(Bounds first) { Relabel(1, first, {1, 1}); }
+    void Rebase(Bounds first, Bounds second) { Relabel(2, first, second); }
 
     /// Back to no dimension; the memory is released.
     void Erase() { *this = Array{}; }
@@ -117,6 +149,15 @@ private:
         bounds_[1] = second;
     }
 
+    void Relabel(int dimensions, Bounds first, Bounds second)
+    {
+        std::int64_t size = 0;
+        if (__builtin_mul_overflow(first.Count(), second.Count(), &size) || size < 1 ||
+            static_cast<std::size_t>(size) != store_.size())
+            Raise(ErrorNumber::Subscript);
+        Reshape(dimensions, first, second);
+    }
+
     const Bounds& At(int dimension) const
     {
         if (dimension < 1 || dimension > dimensions_) Raise(ErrorNumber::Subscript);
@@ -139,7 +180,7 @@ private:
 
     int dimensions_ = 0;
     Bounds bounds_[2];
-    std::vector<T> store_;
+    std::vector<T, UnwrittenMemory<T>> store_;
 };
 
 } // namespace lumora

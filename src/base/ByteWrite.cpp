@@ -75,7 +75,10 @@ struct Writer {
     }
     template <class E> std::int32_t operator()(const Array<E>& array) const
     {
-        return WriteElements(file, array.Span(), type, Operand::Several);
+        if constexpr (requires(const E& element) { NumberOf(element); })
+            return WriteElements(file, array.Span(), type, Operand::Several);
+        else
+            return 0;
     }
     template <class T> std::int32_t operator()(const T& value) const
     {

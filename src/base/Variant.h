@@ -81,9 +81,16 @@ private:
     std::variant<std::monostate, std::uint8_t, std::int16_t, std::int32_t, float, double, Currency,
                  Date, std::string, Array<std::uint8_t>, Array<std::int16_t>, Array<std::int32_t>,
                  Array<float>, Array<double>, Array<Currency>, Array<Date>, Array<std::string>,
-                 Ref<clsMatrix>, Ref<clsLong>, Ref<clsComplexMatrix>, Ref<clsMatrixComplex>,
-                 Ref<clsComplex>, Ref<clsString>, Ref<clsVariant>>
+                 Array<Ref<clsComplex>>, Array<Variant>, Ref<clsMatrix>, Ref<clsLong>,
+                 Ref<clsComplexMatrix>, Ref<clsMatrixComplex>, Ref<clsComplex>, Ref<clsString>,
+                 Ref<clsVariant>>
         held_;
 };
+
+/// As Variant::Number; a template, so that nothing else becomes a Variant on the way here.
+template <std::same_as<Variant> T> double NumberOf(const T& value)
+{
+    return value.Number();
+}
 
 } // namespace lumora

@@ -164,6 +164,39 @@ TEST(Array, IsCheckedAfterItsContentsHaveMovedAway)
     EXPECT_EQ(Raised([&] { array(1); }), 9); // NOLINT: the point of it
 }
 
+TEST(Array, KeepsItsElementsWhenTheLastDimensionGrowsOrShrinks)
+{
+    auto row = Row<int>({1, 2});
+    row.ReDimPreserve(4);
+    EXPECT_EQ(row, Row<int>({1, 2, 0, 0}));
+    row.ReDimPreserve(1);
+    EXPECT_EQ(row, Row<int>({1}));
+
+    auto table = Table<int>({{1, 2}, {3, 4}});
+    table.ReDimPreserve(3);
+    EXPECT_EQ(table, Table<int>({{1, 2, 0}, {3, 4, 0}}));
+    table.ReDimPreserve(1);
+    EXPECT_EQ(table, Table<int>({{1}, {3}}));
+
+    EXPECT_EQ(Raised([&] { table.ReDimPreserve(0); }), 9);
+    EXPECT_EQ(Raised([] { Array<int>().ReDimPreserve(1); }), 9);
+    EXPECT_EQ(table, Table<int>({{1}, {3}}));
+}
+
+TEST(Array, TakesOtherBoundsOverTheSameElements)
+{
+    auto array = Row<int>({1, 2, 3, 4, 5, 6});
+    array.Rebase({1, 2}, {1, 3});
+    EXPECT_EQ(array, Table<int>({{1, 3, 5}, {2, 4, 6}}));
+    array.Rebase({0, 5});
+    EXPECT_EQ(array(0), 1);
+    EXPECT_EQ(array(5), 6);
+    EXPECT_EQ(Raised([&] { array.Rebase({1, 5}); }), 9);
+    EXPECT_EQ(Raised([&] { array.Rebase({1, 0}); }), 9);
+    EXPECT_EQ(Raised([&] { array.Rebase({1, INT64_MAX}, {1, 4}); }), 9);
+    EXPECT_EQ(array(5), 6);
+}
+
 TEST(Array, EqualsAnotherOfTheSameShapeAndContents)
 {
     EXPECT_EQ(Row<int>({1, 2}), Row<int>({1, 2}));

@@ -1,0 +1,248 @@
+#pragma once
+
+#include "base/Array.h"
+#include "base/Ref.h"
+#include "base/Variant.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace lumora {
+
+/// Matrix of 64-bit floats. Indices count from 1; element (i, j) has row i and column j. One row is
+/// kept as a one-dimensional array, anything else as a two-dimensional one, column-major, and a
+/// store whose dimensions disagree with size1 fails with error 9 at its next use. Objects live in a
+/// Ref (MakeRef); an operation returns a new object and leaves its operands alone unless it says
+/// otherwise. "Empty" is an empty Ref or Variant, whose use is error 91.
+class clsMatrix : public std::enable_shared_from_this<clsMatrix> {
+public:
+    /// Public fields; the tag says which class it is. Sizes are 0 until the first Initial_matrix,
+    /// SetRealAll or copy.
+    std::int32_t size1 = 0; ///< rows
+    std::int32_t size2 = 0; ///< columns
+    std::string Name;       ///< a label; nothing reads it
+    std::string TypeOfMatrix = "r";
+
+    /// The store itself, for kernels: read in place, not copied.
+    const Array<double>& Elements() const { return elements_; }
+
+    /// Elementary functions, element by element, angles in radians. Those that return a Variant
+    /// hold a clsMatrix while all elements lie in the real domain, and otherwise a
+    /// clsComplexMatrix in which elements inside the domain keep their real value and have an
+    /// imaginary part of zero. docs/matrix-language.md lists formula, domain and guard of each.
+    /// A guard shows its message once a call and goes on: "Divide by zero." and "Log of zero."
+    /// with 10^306 (a logarithm with its negative), "Overflow." with 0. Errors: 6 where the
+    /// formula overflows, 11 where it divides by a zero that has no guard, 5 outside the domain of
+    /// the underlying function, 9 for a matrix without elements.
+    Ref<clsMatrix> SinM() const;
+    Variant AsinM() const;
+    Ref<clsMatrix> SinhM() const;
+    Ref<clsMatrix> AsinhM() const;
+    Ref<clsMatrix> CosM() const;
+    Variant AcosM() const;
+    Ref<clsMatrix> CoshM() const;
+    Variant AcoshM() const;
+    Ref<clsMatrix> TanM() const;
+    Ref<clsMatrix> AtanM() const;
+    Ref<clsMatrix> TanhM() const;
+    Variant AtanhM() const;
+    Ref<clsMatrix> CotM() const;
+    Ref<clsMatrix> AcotM() const;
+    Ref<clsMatrix> CothM() const;
+    Variant AcothM() const;
+    Ref<clsMatrix> SecM() const;
+    Variant AsecM() const;
+    Ref<clsMatrix> SechM() const;
+    Variant AsechM() const;
+    Ref<clsMatrix> CscM() const;
+    Variant AcscM() const;
+    Ref<clsMatrix> CschM() const;
+    Ref<clsMatrix> AcschM() const;
+    Ref<clsMatrix> ExpM() const;
+    Variant LogM() const;
+    Variant Log2M() const;
+    Variant Log10M() const;
+    Variant Power(const Variant& Obj) const;
+    Variant LogBaseM(const Variant& base) const;
+    Variant SqrM() const;
+    /// A copy.
+    Ref<clsMatrix> Conj() const;
+
+    /// New object with (j, i) from (i, j). CTranspose is the same on real classes.
+    Ref<clsMatrix> Transpose() const;
+    Ref<clsMatrix> CTranspose() const;
+
+    /// A text for each element, all cells of one width. The flag has no effect.
+    Ref<clsString> MatrixToString(const Variant& flag = {}) const;
+
+    /// Adopts the shape and contents of an array, bounds rebased to 1, and returns the receiver. A
+    /// one-dimensional array becomes one row. Error 9 for an array without dimension.
+    /// Deliberate: on an object that already has columns, a one-dimensional array sets size1 to
+    /// its length and leaves size2, and the next use fails; fresh objects are what callers use.
+    clsMatrix& SetRealAll_L(const Array<std::int32_t>& Arr, const std::string& s = {});
+    clsMatrix& SetRealAll(Array<double> Arr, const std::string& s = {});
+    /// A copy of the whole store.
+    Array<double> GetRealAll() const;
+
+    Ref<clsMatrix> CopyObject(const std::string& s = {}) const;
+    /// Fill the receiver from another class and return it.
+    clsMatrix& CopyObjectLongToDouble(const clsLong& Source, const std::string& s = {});
+    clsMatrix& CopyObjectComplexRealToDouble(const clsComplexMatrix& Source,
+                                             const std::string& s = {});
+    clsMatrix& CopyObjectComplexImageToDouble(const clsComplexMatrix& Source,
+                                              const std::string& s = {});
+
+    /// One element. Outside the matrix "Index exceeds matrix dimensions." is shown and then error 9
+    /// is raised.
+    double Real(std::int32_t i, std::int32_t j) const;
+    void Real(std::int32_t i, std::int32_t j, double value);
+
+    /// Allocates zeros, forgetting earlier contents. Error 9 for a size below 1, 7 without memory.
+    void Initial_matrix(std::int32_t new_size1, std::int32_t new_size2,
+                        const std::string& new_name = {});
+    /// As the writing Real.
+    void Set_elements_matrix(std::int32_t i, std::int32_t j, double value);
+    /// As the reading Real, as a Variant; the indices are rounded.
+    Variant GetArr(const Variant& i, const Variant& j) const;
+
+    /// Another column count; what stays keeps its place, new columns are zero. Error 9 below 1.
+    void RedimPreserve(std::int32_t new_size2);
+    /// Grows the receiver by the other's columns and copies them there. Error 9 if the other has
+    /// fewer rows.
+    void CatRefresh(const clsMatrix& other);
+
+    /// Identity of N rows and columns; of N rows and `second` columns; or, with a 1 by 2 matrix
+    /// for N, of the sizes that it holds. Another object, or an object beside `second`, shows the
+    /// titled message "Error using Eye"; then a 1 by 1 matrix of -1 on OK, empty on Cancel.
+    Ref<clsMatrix> clsEye(const Variant& N, const Variant& second = {}) const;
+
+    /// Exchanges two rows (s = 1) or columns (s = 2; anything else becomes 1 in the caller's
+    /// variable). The line that moves from X to Y changes its sign when |X - Y| is odd: one step
+    /// of a determinant, in which X and Y do not stand for each other. Beyond the matrix the titled
+    /// message "Error using Rearrange"; then a 1 by 1 matrix of -1 on OK, empty on Cancel.
+    Variant Rearrange(std::int32_t X, std::int32_t Y, std::int16_t& s) const;
+
+    /// Cuts rows Top..Buttom and columns Left..Right. With the last two left out, a row or a column
+    /// is cut from its Top-th to its Left-th element, and anything else shows "Missing two
+    /// parametrs". A range outside the matrix shows its message. Empty after a message.
+    Ref<clsMatrix> OutMatrix(std::int32_t Top, std::int32_t Left, std::int32_t Buttom = 0,
+                             std::int32_t Right = 0) const;
+    /// Same elements in the same column-major order, other sizes. Sizes of another product show
+    /// "Parameters Must be as NewSize1*NewSize2=size1*size2" and give empty. One row asked of one
+    /// row is the receiver itself, not a copy (error 91 if no Ref holds it).
+    Ref<clsMatrix> NewSizeOfMatrix(std::int32_t new_size1, std::int32_t new_size2);
+    /// Picks the rows (flag 1, of them columns Left..Right) or columns (else) that a clsLong lists.
+    /// Left below 1 means 1, Right below 1 means size2. Messages as OutMatrix, "The first parametr
+    /// must be object- (clsLong)" and "Subscript indices must be integer values."; then empty.
+    Ref<clsMatrix> OutMatrixByVector(const Variant& Indices, std::int32_t Left, std::int32_t Right,
+                                     std::int16_t flag) const;
+
+    /// Smallest and largest element, the first of equal ones; by column (dimention 1) or by row
+    /// (2), 2 by default on a row and 1 otherwise; their positions in each column or row, from 1.
+    /// Another dimention gives empty. Error 9 without elements.
+    double Min() const;
+    Ref<clsMatrix> MinDim(const Variant& dimention = {}) const;
+    Ref<clsMatrix> MaxDim(const Variant& dimention = {}) const;
+    Ref<clsLong> MinIndex(const Variant& dimention = {}) const;
+    Ref<clsLong> MaxIndex(const Variant& dimention = {}) const;
+    double Max() const;
+    /// 1 by 6: minimum, maximum, row of each, column of each; of equal elements the first counts,
+    /// row by row.
+    Ref<clsMatrix> Minmax() const;
+    /// Element by element against a matrix of the same sizes ("Matrix dimensions must agree." and
+    /// empty otherwise), a number, or a complex number, which is compared by the complex rule of
+    /// clsComplexMatrix. The receiver's element stands where both are equal.
+    Ref<clsMatrix> MinRR(const clsMatrix& a) const;
+    Ref<clsMatrix> MaxRR(const clsMatrix& a) const;
+    Ref<clsMatrix> MinRL(const clsLong& a) const;
+    Ref<clsMatrix> MaxRL(const clsLong& a) const;
+    Ref<clsMatrix> MinNum(double x) const;
+    Ref<clsMatrix> MaxRNum(double x) const;
+    Ref<clsComplexMatrix> MinComplexNum(const clsComplex& z) const;
+    Ref<clsComplexMatrix> MaxComplexNum(const clsComplex& z) const;
+
+    /// 1 for each column (dimention 1) or row (2) in which all, or any, elements are non-zero; the
+    /// default and another dimention as for MinDim. Then the same of the whole matrix: AllAll is
+    /// true and AnyAny false without elements.
+    Ref<clsLong> All(const Variant& dimention = {}) const;
+    bool AllAll() const;
+    Ref<clsLong> AnyObj(const Variant& dimention = {}) const;
+    bool AnyAny() const;
+
+    /// Magnitudes.
+    Ref<clsMatrix> AbsM() const;
+
+    /// Operators, the receiver on the left. A suffix names the operand: R clsMatrix, L clsLong,
+    /// C clsComplexMatrix, MC clsMatrixComplex, Num a number, ComplexNum a clsComplex, and RArray,
+    /// LArray, CArray plain arrays. A 1 by 1 side goes with every element of the other; otherwise
+    /// the sizes must agree (Mtimes: the receiver's columns with the operand's rows), or "Error
+    /// using ==> Plus(*) Inner matrix dimensions must agree." (with the operator's name) is shown
+    /// and the result is empty. The forms without suffix take anything: error 13 where an object's
+    /// tag belies its class, "Incorrect type of object" and empty for what is no operand, empty
+    /// without a message for an array of neither numbers nor complex values. Errors: 6 where
+    /// finite operands give no finite result (or a whole result leaves 32 bits), 9 for operands
+    /// without elements.
+    /// Rdivide: a divisor of zero (of either sign; for complex divisors a zero sum of the squares)
+    /// shows "Divide by zero." once a call and gives 10^306.
+    /// Deliberate: PlusNum, PlusL, PlusLArray and MtimesLArray compute their result and then stop
+    /// with error 13, because it is not of the class that they declare.
+    Ref<clsMatrix> MtimesR(const clsMatrix& b) const;
+    Ref<clsMatrix> MtimesL(const clsLong& b) const;
+    Ref<clsComplexMatrix> MtimesC(const clsComplexMatrix& b) const;
+    Ref<clsComplexMatrix> MtimesMC(const clsMatrixComplex& b) const;
+    Ref<clsMatrix> MtimesNum(double b) const;
+    Ref<clsComplexMatrix> MtimesComplexNum(const clsComplex& b) const;
+    Ref<clsComplexMatrix> MtimesCArray(const Array<Ref<clsComplex>>& b) const;
+    Ref<clsMatrix> MtimesRArray(const Array<double>& b) const;
+    Ref<clsLong> MtimesLArray(const Array<std::int32_t>& b) const;
+    Variant MTimes(const Variant& Obj) const;
+
+    Ref<clsComplexMatrix> TimesC(const clsComplexMatrix& b) const;
+    Ref<clsMatrix> TimesR(const clsMatrix& b) const;
+    Ref<clsMatrix> TimesL(const clsLong& b) const;
+    Ref<clsMatrix> TimesNum(double b) const;
+    Ref<clsComplexMatrix> TimesComplexNum(const clsComplex& b) const;
+    Ref<clsComplexMatrix> TimesMC(const clsMatrixComplex& b) const;
+    Ref<clsMatrix> TimesRArray(const Array<double>& b) const;
+    Ref<clsMatrix> TimesLArray(const Array<std::int32_t>& b) const;
+    Ref<clsComplexMatrix> TimesCArray(const Array<Ref<clsComplex>>& b) const;
+    Variant Times(const Variant& Obj) const;
+    Ref<clsComplexMatrix> PlusC(const clsComplexMatrix& b) const;
+    Ref<clsMatrix> PlusR(const clsMatrix& b) const;
+    Ref<clsMatrix> PlusL(const clsLong& b) const;
+    Ref<clsMatrix> PlusNum(double b) const;
+    Ref<clsComplexMatrix> PlusComplexNum(const clsComplex& b) const;
+    Ref<clsComplexMatrix> PlusMC(const clsMatrixComplex& b) const;
+    Ref<clsMatrix> PlusRArray(const Array<double>& b) const;
+    Ref<clsMatrix> PlusLArray(const Array<std::int32_t>& b) const;
+    Ref<clsComplexMatrix> PlusCArray(const Array<Ref<clsComplex>>& b) const;
+    Variant Plus(const Variant& Obj) const;
+
+    Ref<clsComplexMatrix> MinusC(const clsComplexMatrix& b) const;
+    Ref<clsMatrix> MinusR(const clsMatrix& b) const;
+    Ref<clsMatrix> MinusL(const clsLong& b) const;
+    Ref<clsMatrix> MinusNum(double b) const;
+    Ref<clsComplexMatrix> MinusComplexNum(const clsComplex& b) const;
+    Ref<clsComplexMatrix> MinusMC(const clsMatrixComplex& b) const;
+    Ref<clsMatrix> MinusRArray(const Array<double>& b) const;
+    Ref<clsMatrix> MinusLArray(const Array<std::int32_t>& b) const;
+    Ref<clsComplexMatrix> MinusCArray(const Array<Ref<clsComplex>>& b) const;
+    Variant Minus(const Variant& Obj) const;
+
+    Ref<clsComplexMatrix> RdivideC(const clsComplexMatrix& b) const;
+    Ref<clsMatrix> RdivideR(const clsMatrix& b) const;
+    Ref<clsMatrix> RdivideL(const clsLong& b) const;
+    Ref<clsMatrix> RdivideNum(double b) const;
+    Ref<clsComplexMatrix> RdivideComplexNum(const clsComplex& b) const;
+    Ref<clsComplexMatrix> RdivideMC(const clsMatrixComplex& b) const;
+    Ref<clsMatrix> RdivideRArray(const Array<double>& b) const;
+    Ref<clsMatrix> RdivideLArray(const Array<std::int32_t>& b) const;
+    Ref<clsComplexMatrix> RdivideCArray(const Array<Ref<clsComplex>>& b) const;
+    Variant Rdivide(const Variant& Obj) const;
+
+private:
+    Array<double> elements_;
+};
+
+} // namespace lumora
