@@ -1,4 +1,4 @@
-#include "numeric/Matrices.h"
+#include "numeric/Numbered.h"
 #include "support/Raised.h"
 
 #include <gtest/gtest.h>
@@ -30,9 +30,7 @@ using Complexes = std::vector<Complex>;
 
 template <class M> class EveryMatrix : public testing::Test {
 };
-using Matrices =
-    testing::Types<clsMatrix, clsLong, clsComplexMatrix, clsMatrixComplex, clsString, clsVariant>;
-TYPED_TEST_SUITE(EveryMatrix, Matrices);
+TYPED_TEST_SUITE(EveryMatrix, test::Matrices);
 
 TYPED_TEST(EveryMatrix, StartsWithoutElements)
 {
