@@ -3,6 +3,7 @@
 #include "base/Array.h"
 #include "base/Ref.h"
 
+#include <concepts>
 #include <cstdint>
 
 namespace lumora {
@@ -10,7 +11,7 @@ namespace lumora {
 class clsComplex;
 
 /// An array of the same shape and bounds whose elements are `convert` of the old ones.
-template <class To, class From, class Convert>
+template <class To, class From, std::invocable<const From&> Convert>
 Array<To> Converted(const Array<From>& from, Convert convert)
 {
     Array<To> to;

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string_view>
-
 namespace lumora {
 
 // The texts of the matrix language, each once and to the letter, odd blanks and stops included.
@@ -16,6 +14,11 @@ inline constexpr const char* kIndicesMustBeObject   = "The first parametr must b
 inline constexpr const char* kIndicesMustBeLong     = "Subscript indices must be integer values.";
 inline constexpr const char* kProductsDiffer        = "Parameters Must be as NewSize1*NewSize2=size1*size2";
 inline constexpr const char* kDimensionsMustAgree   = "Matrix dimensions must agree.";
+inline constexpr const char* kPlusSizes             = "Error using ==> Plus(*) Inner matrix dimensions must agree.";
+inline constexpr const char* kMinusSizes            = "Error using ==> Minus(*) Inner matrix dimensions must agree.";
+inline constexpr const char* kTimesSizes            = "Error using ==> Times(*) Inner matrix dimensions must agree.";
+inline constexpr const char* kMtimesSizes           = "Error using ==> Mtimes(*) Inner matrix dimensions must agree.";
+inline constexpr const char* kRdivideSizes          = "Error using ==> Rdivide(*) Inner matrix dimensions must agree.";
 inline constexpr const char* kDivideByZero          = "Divide by zero.";
 inline constexpr const char* kDivideByZeroTwoStops  = "Divide by zero..";
 inline constexpr const char* kDivideByZeroCapital   = "Divide by Zero.";
