@@ -15,7 +15,7 @@ std::vector<double> CharacterCodes(const Variant& value)
 {
     return value.Visit([]<class T>(const T& held) {
         std::vector<double> codes;
-        if constexpr (requires { held.Span(); }) {
+        if constexpr (requires { NumberOf(held.Span()[0]); }) {
             for (const auto& element : held.Span())
                 codes.push_back(NumberOf(element));
         } else if constexpr (requires { NumberOf(held); }) {

@@ -64,19 +64,26 @@ std::int32_t CLng(std::int64_t value)
     return Narrowed<std::int32_t>(value);
 }
 
-double CDbl(std::string_view text)
+std::optional<double> SpelledNumber(std::string_view text)
 {
     std::string_view digits = TrimBlanks(text);
     if (digits.starts_with('+')) {
         digits.remove_prefix(1);
-        if (digits.starts_with('-')) Raise(ErrorNumber::TypeMismatch);
+        if (digits.starts_with('-')) return std::nullopt;
     }
     double value = 0.0;
     const auto [end, failure] =
         std::from_chars(digits.data(), digits.data() + digits.size(), value);
     if (failure != std::errc{} || end != digits.data() + digits.size() || !std::isfinite(value))
-        Raise(ErrorNumber::TypeMismatch);
+        return std::nullopt;
     return value;
+}
+
+double CDbl(std::string_view text)
+{
+    const std::optional<double> number = SpelledNumber(text);
+    if (!number) Raise(ErrorNumber::TypeMismatch);
+    return *number;
 }
 
 double Divide(double dividend, double divisor)

@@ -2,6 +2,7 @@
 
 #include <concepts>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace lumora {
@@ -31,7 +32,9 @@ template <std::integral T> std::int32_t CLng(T value)
     return CLng(static_cast<std::int64_t>(value));
 }
 
-/// The number that a text spells, blanks around it allowed. Error 13 if it spells none.
+/// The number that a text spells, blanks around it allowed; nothing if it spells none.
+std::optional<double> SpelledNumber(std::string_view text);
+/// The same; error 13 if the text spells none.
 double CDbl(std::string_view text);
 
 /// Quotient of floats. Error 11 when `divisor` is zero.

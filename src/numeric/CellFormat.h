@@ -1,0 +1,36 @@
+#pragma once
+
+#include "base/Variant.h"
+
+#include <cstdint>
+#include <initializer_list>
+#include <span>
+#include <string>
+
+namespace lumora {
+
+/// The largest e with 10^e not above the magnitude of a number; 0 for zero and for what is not
+/// finite.
+std::int32_t ExponentOfTen(double number);
+
+/// How many digits every cell of a matrix has room for before and behind the point. Without
+/// fraction digits there is no point.
+struct CellDigits {
+    std::int32_t whole = 1;
+    std::int32_t fraction = 0;
+};
+
+/// Digits for all cells of a matrix whose elements are the numbers of all `parts`. Whole numbers
+/// have no fraction. Others have so many fraction digits that the smallest shows five significant
+/// ones, where a number below a thousandth of the largest does not count as the smallest; at least
+/// one.
+CellDigits DigitsFor(std::initializer_list<std::span<const double>> parts);
+
+/// One number: a sign or blank, at least one whole digit, and the fraction digits, with blanks on
+/// the left up to the width that `digits` gives. "0" in the same way for what is not numeric.
+std::string FormatRealCell(const Variant& value, CellDigits digits);
+
+/// Real part, " + " or " - ", magnitude of the imaginary part, "i"; the parts as in FormatRealCell.
+std::string FormatComplexCell(double re, double im, CellDigits digits);
+
+} // namespace lumora
