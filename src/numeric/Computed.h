@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/RunTimeError.h"
-#include "numeric/Results.h"
+#include "numeric/Finite.h"
 
 namespace lumora {
 

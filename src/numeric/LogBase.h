@@ -20,7 +20,7 @@ template <class Use> auto WithLogOfBase(const Variant& base, const char* complai
 {
     OneTelling tell;
     if (const std::string* tag = TagOf(base); tag != nullptr && tag->empty()) {
-        const ComplexValue z = ComplexOf(base.As<Ref<clsComplex>>());
+        const ComplexValue z = SheetOf(ObjectOf<clsComplex>(base))[0];
         const ComplexValue log_base = Computed(formulas::Log(z, tell), z);
         return use(log_base, std::move(tell));
     }

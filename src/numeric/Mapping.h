@@ -2,6 +2,8 @@
 
 #include "base/Variant.h"
 #include "numeric/ComplexFormulas.h"
+#include "numeric/Draft.h"
+#include "numeric/Finite.h"
 #include "numeric/OneTelling.h"
 #include "numeric/Results.h"
 #include "numeric/Sheets.h"
@@ -17,20 +19,6 @@
 #include <utility>
 
 namespace lumora {
-
-/// Any element as a complex number. Error 91 for an element without object.
-inline ComplexValue ComplexOf(double x)
-{
-    return {x, 0.0};
-}
-inline ComplexValue ComplexOf(ComplexValue z)
-{
-    return z;
-}
-inline ComplexValue ComplexOf(const Ref<clsComplex>& z)
-{
-    return {z->Real, z->Image};
-}
 
 // New matrices in one pass. A rule tells element k as Real(k) or Complex(k), and FromFinite(k)
 // tells whether it came from finite numbers: error 6 if it is not finite itself then. Error 9 for
@@ -54,20 +42,18 @@ template <class Rule> Ref<clsComplexMatrix> ComplexElements(Sizes sizes, Rule ru
     return std::move(result).Object();
 }
 
-template <class Rule> Ref<clsComplex> ComplexObject(Rule& rule, std::size_t k)
-{
-    const ComplexValue z = rule.Complex(k);
-    if (!Finite(z) && rule.FromFinite(k)) Raise(ErrorNumber::Overflow);
-    return MakeRef<clsComplex>(z.re, z.im);
-}
-
 template <class Rule> Ref<clsMatrixComplex> ObjectElements(Sizes sizes, Rule rule)
 {
-    Array<Ref<clsComplex>> store = UnwrittenStore<Ref<clsComplex>>(sizes);
-    std::size_t k = 0;
-    for (Ref<clsComplex>& object : store.Span())
-        object = ComplexObject(rule, k++);
-    return NewMatrix<clsMatrixComplex>(std::move(store));
+    const Ref<clsComplexMatrix> elements = ComplexElements(sizes, std::move(rule));
+    return NewMatrix<clsMatrixComplex>(elements->RealPart(), elements->ImagePart());
+}
+
+/// Element 0 alone.
+template <class Rule> Ref<clsComplex> ComplexObject(Rule rule)
+{
+    const ComplexValue z = rule.Complex(0);
+    if (!Finite(z) && rule.FromFinite(0)) Raise(ErrorNumber::Overflow);
+    return AsObject(z);
 }
 
 /// A rule for real elements among complex ones: those inside the domain keep their real value and
@@ -77,7 +63,7 @@ template <class Rule> struct Promoted {
 
     ComplexValue Complex(std::size_t k)
     {
-        return rule.InDomain(k) ? ComplexOf(rule.Real(k)) : rule.Complex(k);
+        return rule.InDomain(k) ? AsComplex(rule.Real(k)) : rule.Complex(k);
     }
     bool FromFinite(std::size_t k) const { return rule.FromFinite(k); }
 };
@@ -85,8 +71,10 @@ template <class Rule> struct Promoted {
 /// A clsMatrix if all elements lie inside the domain of the rule, otherwise a clsComplexMatrix.
 template <class Rule> Variant RealOrComplex(Sizes sizes, std::size_t count, Rule rule)
 {
+    bool outside = false;
     for (std::size_t k = 0; k < count; ++k)
-        if (!rule.InDomain(k)) return ComplexElements(sizes, Promoted<Rule>{std::move(rule)});
+        outside |= !rule.InDomain(k);
+    if (outside) return ComplexElements(sizes, Promoted<Rule>{std::move(rule)});
     return RealElements(sizes, std::move(rule));
 }
 
@@ -98,7 +86,7 @@ template <class F, class S> struct RealRule {
 
     bool InDomain(std::size_t k) const { return f.InDomain(in[k]); }
     double Real(std::size_t k) { return f.Real(in[k], tell); }
-    ComplexValue Complex(std::size_t k) { return f.Complex(ComplexOf(in[k]), tell); }
+    ComplexValue Complex(std::size_t k) { return f.Complex(AsComplex(in[k]), tell); }
     bool FromFinite(std::size_t k) const { return Finite(in[k]); }
 };
 
@@ -124,11 +112,11 @@ template <class Formula, class S> struct ComplexRule {
     ComplexValue Complex(std::size_t k)
     {
         if constexpr (std::invocable<Formula, ComplexValue>)
-            return formula(ComplexOf(in[k]));
+            return formula(AsComplex(in[k]));
         else
-            return formula(ComplexOf(in[k]), tell);
+            return formula(AsComplex(in[k]), tell);
     }
-    bool FromFinite(std::size_t k) const { return Finite(ComplexOf(in[k])); }
+    bool FromFinite(std::size_t k) const { return Finite(AsComplex(in[k])); }
 };
 template <class Formula, class S> ComplexRule(Formula, S) -> ComplexRule<Formula, S>;
 template <class Formula, class S> ComplexRule(Formula, S, OneTelling) -> ComplexRule<Formula, S>;
@@ -136,8 +124,7 @@ template <class Formula, class S> ComplexRule(Formula, S, OneTelling) -> Complex
 template <class Formula>
 Ref<clsComplex> MapComplex(const clsComplex& z, Formula formula, OneTelling told = {})
 {
-    ComplexRule rule{formula, SheetOf(z), std::move(told)};
-    return ComplexObject(rule, 0);
+    return ComplexObject(ComplexRule{formula, SheetOf(z), std::move(told)});
 }
 
 template <class Formula>
@@ -155,8 +142,8 @@ Ref<clsMatrixComplex> MapComplex(const clsMatrixComplex& m, Formula formula, One
 template <class S> struct MagnitudeRule {
     S in;
 
-    double Real(std::size_t k) const { return formulas::Magnitude(ComplexOf(in[k])); }
-    bool FromFinite(std::size_t k) const { return Finite(ComplexOf(in[k])); }
+    double Real(std::size_t k) const { return formulas::Magnitude(AsComplex(in[k])); }
+    bool FromFinite(std::size_t k) const { return Finite(AsComplex(in[k])); }
 };
 
 template <class M> Ref<clsMatrix> Magnitudes(const M& m)

@@ -1,6 +1,7 @@
 #include "numeric/MatrixProduct.h"
 
 #include "base/RunTimeError.h"
+#include "base/Vectors.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -10,10 +11,6 @@
 namespace lumora {
 
 namespace {
-
-using Two = double __attribute__((vector_size(16)));
-using Four = double __attribute__((vector_size(32)));
-using Eight = double __attribute__((vector_size(64)));
 
 // A block of b's rows that stays in the second cache with the packed rows of a.
 constexpr std::size_t kDepth = 256;
@@ -37,7 +34,7 @@ template <class V, std::size_t kVectors, std::size_t kWide> struct Tile {
 
     V sums[kWide][kVectors];
 
-    [[gnu::always_inline]] void Load(const double* result, std::size_t stride, std::size_t rows)
+    [[gnu::always_inline]] void From(const double* result, std::size_t stride, std::size_t rows)
     {
         for (std::size_t j = 0; j < kWide; ++j) {
             double column[kRows] = {};
@@ -45,7 +42,7 @@ template <class V, std::size_t kVectors, std::size_t kWide> struct Tile {
             std::memcpy(sums[j], column, sizeof column);
         }
     }
-    [[gnu::always_inline]] void Store(double* result, std::size_t stride, std::size_t rows) const
+    [[gnu::always_inline]] void To(double* result, std::size_t stride, std::size_t rows) const
     {
         for (std::size_t j = 0; j < kWide; ++j) {
             double column[kRows];
@@ -60,7 +57,8 @@ template <class V, std::size_t kVectors, std::size_t kWide> struct Tile {
         std::memcpy(here, sums, sizeof here);
         for (std::size_t k = 0; k < depth; ++k) {
             V row[kVectors];
-            std::memcpy(row, packed + k * kRows, sizeof row);
+            for (std::size_t v = 0; v < kVectors; ++v)
+                row[v] = Load<V>(packed + k * kRows + v * kLanes);
             for (std::size_t j = 0; j < kWide; ++j)
                 for (std::size_t v = 0; v < kVectors; ++v)
                     here[j][v] += row[v] * b[k + j * stride];
@@ -78,9 +76,9 @@ template <class V, std::size_t kVectors, std::size_t kWide>
     const std::size_t rows = std::min(Here::kRows, p.rows - i);
     double* const corner = p.result + i + j * p.rows;
     Here tile;
-    tile.Load(corner, p.rows, rows);
+    tile.From(corner, p.rows, rows);
     tile.Add(packed, p.b + k + j * p.depth, p.depth, depth);
-    tile.Store(corner, p.rows, rows);
+    tile.To(corner, p.rows, rows);
 }
 
 template <class V, std::size_t kVectors>

@@ -83,11 +83,11 @@ template <class A, class B> struct Powers {
     double Real(std::size_t k) { return RealPower(base[k], ExponentOf(k), tell); }
     ComplexValue Complex(std::size_t k)
     {
-        return ComplexPower(ComplexOf(base[k]), ComplexOf(ExponentOf(k)), tell);
+        return ComplexPower(AsComplex(base[k]), AsComplex(ExponentOf(k)), tell);
     }
     bool FromFinite(std::size_t k) const
     {
-        return Finite(ComplexOf(base[k])) && Finite(ComplexOf(ExponentOf(k)));
+        return Finite(AsComplex(base[k])) && Finite(AsComplex(ExponentOf(k)));
     }
 };
 
@@ -143,7 +143,7 @@ Variant PowerOf(const clsComplex& base, const Variant& exponent)
     return WithExponent(exponent, kNumberOrCls, [&]<class S>(const S& y) -> Variant {
         Powers<Single<ComplexValue>, S> powers{SheetOf(base), y};
         if constexpr (kIsSingle<S>)
-            return ComplexObject(powers, 0);
+            return ComplexObject(powers);
         else
             return ComplexElements({y.rows, y.columns}, powers);
     });

@@ -2,6 +2,7 @@
 
 #include "base/Array.h"
 #include "base/Ref.h"
+#include "numeric/Finite.h"
 #include "numeric/Sheets.h"
 #include "numeric/Stores.h"
 #include "numeric/clsComplexMatrix.h"
@@ -9,37 +10,10 @@
 #include "numeric/clsMatrix.h"
 
 #include <algorithm>
-#include <bit>
-#include <cmath>
 #include <cstddef>
 #include <cstdint>
 
 namespace lumora {
-
-inline bool Finite(double x)
-{
-    return std::isfinite(x);
-}
-inline bool Finite(std::int32_t)
-{
-    return true;
-}
-inline bool Finite(ComplexValue z)
-{
-    return std::isfinite(z.re) && std::isfinite(z.im);
-}
-
-/// No infinity and no NaN among them. Adding one to the exponent carries into the sign exactly when
-/// the exponent is all ones, which a vector tests faster than it compares.
-inline bool AllFinite(const double* x, std::size_t count)
-{
-    constexpr std::uint64_t kMagnitude = 0x7fff'ffff'ffff'ffff;
-    constexpr std::uint64_t kOneExponent = 0x0010'0000'0000'0000;
-    std::uint64_t carries = 0;
-    for (std::size_t k = 0; k < count; ++k)
-        carries |= (std::bit_cast<std::uint64_t>(x[k]) & kMagnitude) + kOneExponent;
-    return carries >> 63 == 0;
-}
 
 /// A matrix of class M in the making: elements are written in any order of ranges, each once. Error
 /// 9 for an empty shape. Object() hands it over.
