@@ -192,11 +192,6 @@ ComplexValue Quotient(ComplexValue z, ComplexValue w, const char* text, OneTelli
     return Vanishes(w) ? Instead(text, kHuge, tell) : Ratio(z, w);
 }
 
-ComplexValue Conj(ComplexValue z)
-{
-    return {z.re, -z.im};
-}
-
 ComplexValue Sqrt(ComplexValue z)
 {
     const double root = std::sqrt(Magnitude(z));

@@ -20,7 +20,6 @@ double Angle(ComplexValue z);
 /// A zero divisor, by the sum of its squares, shows `text` and gives 10^306.
 ComplexValue Quotient(ComplexValue z, ComplexValue w, const char* text, OneTelling& tell);
 
-ComplexValue Conj(ComplexValue z);
 /// By half the angle.
 ComplexValue Sqrt(ComplexValue z);
 /// From the half sum of magnitude and real part, without an angle.

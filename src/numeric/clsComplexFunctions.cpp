@@ -42,7 +42,7 @@ Ref<clsComplex> clsComplex::SqrM()    const { return MapComplex(*this, formulas:
 Variant         clsComplex::Power(const Variant& Obj)      const { return PowerOf(*this, Obj); }
 Ref<clsComplex> clsComplex::LogBaseM(const Variant& base)  const { return ComplexLogBase(*this, base); }
 double          clsComplex::AbsM()       const { return Computed(formulas::Magnitude({Real, Image}), Real, Image); }
-Ref<clsComplex> clsComplex::Conj()       const { return MapComplex(*this, formulas::Conj); }
+Ref<clsComplex> clsComplex::Conj()       const { return MakeRef<clsComplex>(Real, -Image); }
 Ref<clsComplex> clsComplex::CTranspose() const { return Conj(); }
 Ref<clsComplex> clsComplex::Transpose()  const { return CopyObject(); }
 
