@@ -1,22 +1,13 @@
 #include "engine/EngineKernels.h"
 
+#include "base/Vectors.h"
+
 #include <cmath>
 #include <cstring>
 
 namespace lumora {
 
 namespace {
-
-using Two = double __attribute__((vector_size(16)));
-using Four = double __attribute__((vector_size(32)));
-using Eight = double __attribute__((vector_size(64)));
-
-template <class V> [[gnu::always_inline]] inline V Load(const double* from)
-{
-    V values;
-    std::memcpy(&values, from, sizeof values);
-    return values;
-}
 
 /// One pass over the target for N vectors of shifts side by side. The sums of the first window ride
 /// along (x and y, then their squares), which hides them in the same loop.

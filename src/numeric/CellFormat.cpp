@@ -97,7 +97,7 @@ CellDigits DigitsFor(std::initializer_list<std::span<const double>> parts)
 
 std::string FormatRealCell(const Variant& value, CellDigits digits)
 {
-    if (!IsNumeric(value)) return PaddedLeft(" 0", Width(digits) + 1);
+    if (!IsNumeric(value)) return "0";
     const double x = value.Number();
     return PaddedLeft((x < 0.0 ? "-" : " ") + Printed(std::abs(x), digits.fraction),
                       Width(digits) + 1);

@@ -27,7 +27,7 @@ struct CellDigits {
 CellDigits DigitsFor(std::initializer_list<std::span<const double>> parts);
 
 /// One number: a sign or blank, at least one whole digit, and the fraction digits, with blanks on
-/// the left up to the width that `digits` gives. "0" in the same way for what is not numeric.
+/// the left up to the width that `digits` gives. Just "0" for what is not numeric.
 std::string FormatRealCell(const Variant& value, CellDigits digits);
 
 /// Real part, " + " or " - ", magnitude of the imaginary part, "i"; the parts as in FormatRealCell.

@@ -1,4 +1,5 @@
 #include "numeric/ShapedStores.h"
+#include "numeric/clsComplex.h"
 #include "numeric/clsComplexMatrix.h"
 #include "numeric/clsLong.h"
 #include "numeric/clsMatrix.h"

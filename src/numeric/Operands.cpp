@@ -62,10 +62,6 @@ Ref<clsComplex> ComplexOfText(const std::string& written)
     return MakeRef<clsComplex>(re, ImaginaryFactor(number.substr(sign)));
 }
 
-Ref<clsComplex> ComplexOf(const Ref<clsComplex>& z)
-{
-    return z;
-}
 Ref<clsComplex> ComplexOf(const std::string& text)
 {
     return ComplexOfText(text);

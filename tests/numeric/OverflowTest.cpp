@@ -1,0 +1,91 @@
+#include "numeric/Matrices.h"
+#include "support/Raised.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace lumora::test {
+namespace {
+
+constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
+constexpr double kInfinite = std::numeric_limits<double>::infinity();
+
+TEST(Overflow, OfWholeNumbersStartsOneBeyondTheRange)
+{
+    const auto most = LongMatrix({{kMost}});
+    const auto least = LongMatrix({{kLeast}});
+    EXPECT_EQ(Values(*most->PlusL(*LongMatrix({{0}}))), (std::vector<std::int32_t>{kMost}));
+    EXPECT_EQ(Raised([&] { most->PlusL(*LongMatrix({{1}})); }), 6);
+    EXPECT_EQ(Values(*least->MinusL(*LongMatrix({{0}}))), (std::vector<std::int32_t>{kLeast}));
+    EXPECT_EQ(Raised([&] { least->MinusL(*LongMatrix({{1}})); }), 6);
+    EXPECT_EQ(Raised([&] { least->TimesL(*LongMatrix({{-1}})); }), 6);
+    EXPECT_EQ(Raised([&] { LongMatrix({{65536}})->MtimesLongNum(32768); }), 6);
+    EXPECT_EQ(Values(*LongMatrix({{-65536}})->MtimesLongNum(32768)),
+              (std::vector<std::int32_t>{kLeast}));
+}
+
+TEST(Overflow, OfWholeProductsIsLookedForAtEveryPartialSum)
+{
+    // The whole sum would fit; the sum up to the second product does not.
+    const auto row = LongMatrix({{kMost, 1, -1}});
+    EXPECT_EQ(Raised([&] { row->MtimesL(*LongMatrix({{1}, {1}, {1}})); }), 6);
+    // Neither does a single product, although another would take it back.
+    EXPECT_EQ(Raised([&] { LongMatrix({{kMost, kMost}})->MtimesL(*LongMatrix({{2}, {-2}})); }), 6);
+    EXPECT_EQ(Values(*row->MtimesL(*LongMatrix({{1}, {-1}, {-1}}))),
+              (std::vector<std::int32_t>{kMost}));
+}
+
+TEST(Overflow, OfFloatsIsAnErrorInEveryElement)
+{
+    // Far behind the first elements, so that no place in a block is special.
+    Ref<clsMatrix> long_row = MakeRef<clsMatrix>();
+    long_row->Initial_matrix(1, 5000);
+    for (const std::int32_t j : {1, 1024, 1025, 4999, 5000}) {
+        long_row->Real(1, j, 1e308);
+        EXPECT_EQ(Raised([&] { long_row->PlusR(*long_row); }), 6) << j;
+        EXPECT_EQ(Raised([&] { long_row->TimesNum(10.0); }), 6) << j;
+        EXPECT_EQ(Raised([&] { long_row->MinusNum(-1e308); }), 6) << j;
+        EXPECT_EQ(Raised([&] { long_row->RdivideNum(0.01); }), 6) << j;
+        long_row->Real(1, j, 0.0);
+    }
+    EXPECT_EQ(Raised([&] { long_row->PlusR(*long_row); }), 0);
+}
+
+TEST(Overflow, OfEitherComplexPartIsAnError)
+{
+    EXPECT_EQ(Raised([] {
+                  ComplexMatrix({{{1e200, 1}}})->TimesC(*ComplexMatrix({{{1e200, 1}}}));
+              }),
+              6);
+    EXPECT_EQ(Raised([] {
+                  ComplexMatrix({{{0, 1e308}}})->PlusC(*ComplexMatrix({{{0, 1e308}}}));
+              }),
+              6);
+    EXPECT_EQ(Raised([] { Scalar(1e308, 0)->PlusNum(1e308); }), 6);
+    EXPECT_EQ(Raised([] { Scalar(1e200, 1e200)->MtimesComplexNum(clsComplex(1e200, 1e200)); }), 6);
+}
+
+TEST(Overflow, OfAMatrixProductIsAnError)
+{
+    const auto a = RealMatrix({{1, 2}, {1e200, 1e200}});
+    EXPECT_EQ(Raised([&] { a->MtimesR(*RealMatrix({{1, 1e200}, {1, -1e200}})); }), 6);
+    EXPECT_EQ(Values(*a->MtimesR(*RealMatrix({{1, 1}, {1, -1}}))),
+              (std::vector<double>{3, 2e200, -1, 0}));
+}
+
+TEST(Overflow, IsNotWhatComesOfInfiniteOperands)
+{
+    const auto infinite = RealMatrix({{kInfinite, 1}});
+    EXPECT_EQ(Values(*infinite->PlusR(*RealMatrix({{1, 1}}))), (std::vector<double>{kInfinite, 2}));
+    EXPECT_TRUE(std::isnan(Values(*infinite->MinusR(*infinite))[0]));
+    EXPECT_EQ(Values(*infinite->MtimesR(*RealMatrix({{1}, {1}}))),
+              (std::vector<double>{kInfinite}));
+    // One infinite element does not excuse another that overflows.
+    EXPECT_EQ(Raised([] { RealMatrix({{kInfinite, 1e308}})->TimesNum(10.0); }), 6);
+}
+
+} // namespace
+} // namespace lumora::test
