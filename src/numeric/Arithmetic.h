@@ -6,7 +6,6 @@
 #include "numeric/Sheets.h"
 #include "numeric/clsComplex.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <type_traits>
 
@@ -30,25 +29,12 @@ template <class R, class T> auto Taken(const T& element)
         return element;
 }
 
-/// Error 6 if one of the results is not finite although its operands are.
-template <class R, class ElementA, class ElementB>
-void RefuseOverflow(const Result<R>& result, std::size_t from, std::size_t to, ElementA&& a,
-                    ElementB&& b)
-{
-    for (std::size_t k = from; k < to; ++k)
-        if (!Finite(result[k]) && Finite(a(k)) && Finite(b(k))) Raise(ErrorNumber::Overflow);
-}
-
-/// Block by block, so that the look for overflows finds its results in the nearest cache.
 template <class R, class Rule, class ElementA, class ElementB>
 void ComputeAll(Result<R>& result, Rule& rule, ElementA a, ElementB b)
 {
-    constexpr std::size_t kBlock = 1024;
-    for (std::size_t from = 0; from < result.Size(); from += kBlock) {
-        const std::size_t to = std::min(from + kBlock, result.Size());
-        if (!result.Fill(from, to, [&](std::size_t k) { return rule(a(k), b(k)); }))
-            RefuseOverflow(result, from, to, a, b);
-    }
+    ComputeEach(
+        result, [&](std::size_t k) { return rule(a(k), b(k)); },
+        [&](std::size_t k) { return Finite(a(k)) && Finite(b(k)); });
 }
 
 /// Scalar left, scalar right, same shape: once for all operators and classes. Empty after the

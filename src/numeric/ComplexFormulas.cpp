@@ -38,6 +38,21 @@ constexpr double kLargestGrowth = 100.0;
 constexpr ComplexValue kOne{1.0, 0.0};
 constexpr ComplexValue kI{0.0, 1.0};
 
+ComplexValue Sum(ComplexValue z, ComplexValue w)
+{
+    return {z.re + w.re, z.im + w.im};
+}
+
+ComplexValue Difference(ComplexValue z, ComplexValue w)
+{
+    return {z.re - w.re, z.im - w.im};
+}
+
+ComplexValue Product(ComplexValue z, ComplexValue w)
+{
+    return {z.re * w.re - z.im * w.im, z.re * w.im + z.im * w.re};
+}
+
 ComplexValue Negative(ComplexValue z)
 {
     return {-z.re, -z.im};
@@ -60,7 +75,7 @@ ComplexValue Over(ComplexValue z, double divisor)
 
 double SumOfSquares(ComplexValue z)
 {
-    return Computed(z.re * z.re + z.im * z.im, z.re, z.im);
+    return Computed(z.re * z.re + z.im * z.im, z);
 }
 
 bool Vanishes(ComplexValue z)
@@ -172,21 +187,6 @@ double Angle(ComplexValue z)
     return Atan2(z.im, z.re);
 }
 
-ComplexValue Sum(ComplexValue z, ComplexValue w)
-{
-    return {z.re + w.re, z.im + w.im};
-}
-
-ComplexValue Difference(ComplexValue z, ComplexValue w)
-{
-    return {z.re - w.re, z.im - w.im};
-}
-
-ComplexValue Product(ComplexValue z, ComplexValue w)
-{
-    return {z.re * w.re - z.im * w.im, z.re * w.im + z.im * w.re};
-}
-
 ComplexValue Quotient(ComplexValue z, ComplexValue w, const char* text, OneTelling& tell)
 {
     return Vanishes(w) ? Instead(text, kHuge, tell) : Ratio(z, w);
@@ -227,7 +227,7 @@ ComplexValue Log(ComplexValue z, OneTelling& tell)
 {
     const double r = Magnitude(z);
     if (r == 0.0) return Instead(kLogOfZero, -kHuge, tell);
-    const bool overflows = std::isinf(r) && std::isfinite(z.re) && std::isfinite(z.im);
+    const bool overflows = std::isinf(r) && Finite(z);
     return {overflows ? tell.Instead(kOverflow, 0.0) : std::log(r), Angle(z)};
 }
 

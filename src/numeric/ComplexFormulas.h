@@ -17,9 +17,6 @@ namespace formulas {
 /// sqrt(a^2 + b^2), without scaling: it overflows above 10^154.
 double Magnitude(ComplexValue z);
 double Angle(ComplexValue z);
-ComplexValue Sum(ComplexValue z, ComplexValue w);
-ComplexValue Difference(ComplexValue z, ComplexValue w);
-ComplexValue Product(ComplexValue z, ComplexValue w);
 /// A zero divisor, by the sum of its squares, shows `text` and gives 10^306.
 ComplexValue Quotient(ComplexValue z, ComplexValue w, const char* text, OneTelling& tell);
 

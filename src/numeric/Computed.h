@@ -1,23 +1,16 @@
 #pragma once
 
 #include "base/RunTimeError.h"
-#include "numeric/Sheets.h"
-
-#include <cmath>
+#include "numeric/Results.h"
 
 namespace lumora {
 
 /// What was computed from `operands`: error 6 if it is not finite although they all are. An
 /// infinity or a NaN that was there before just passes.
-template <class... Operands> double Computed(double value, Operands... operands)
+template <class Value, class... Operands> Value Computed(Value value, const Operands&... operands)
 {
-    if (!std::isfinite(value) && (std::isfinite(operands) && ...)) Raise(ErrorNumber::Overflow);
+    if (!Finite(value) && (Finite(operands) && ...)) Raise(ErrorNumber::Overflow);
     return value;
-}
-
-inline ComplexValue Computed(ComplexValue value, ComplexValue operand)
-{
-    return {Computed(value.re, operand.re, operand.im), Computed(value.im, operand.re, operand.im)};
 }
 
 } // namespace lumora

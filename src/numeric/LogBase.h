@@ -2,6 +2,7 @@
 
 #include "base/Messages.h"
 #include "base/Variant.h"
+#include "numeric/Computed.h"
 #include "numeric/Mapping.h"
 #include "numeric/Operands.h"
 #include "numeric/Predicates.h"
@@ -47,8 +48,8 @@ template <class M> Variant RealLogBase(const M& m, const Variant& base)
         if constexpr (std::is_same_v<decltype(log_base), double>)
             return MapOrPromote(m, elementary::LogBase{log_base});
         else
-            return ComplexElements(
-                SizesOf(m), ComplexElement(SheetOf(m), LogFormula(log_base), std::move(told)));
+            return ComplexElements(SizesOf(m),
+                                   ComplexRule{LogFormula(log_base), SheetOf(m), std::move(told)});
     });
 }
 

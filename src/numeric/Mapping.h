@@ -2,7 +2,6 @@
 
 #include "base/Variant.h"
 #include "numeric/ComplexFormulas.h"
-#include "numeric/Computed.h"
 #include "numeric/OneTelling.h"
 #include "numeric/Results.h"
 #include "numeric/Sheets.h"
@@ -33,130 +32,137 @@ inline ComplexValue ComplexOf(const Ref<clsComplex>& z)
     return {z->Real, z->Image};
 }
 
-// A new matrix whose k-th element is `element(k)`, in one pass. Error 9 for an empty shape.
+// New matrices in one pass. A rule tells element k as Real(k) or Complex(k), and FromFinite(k)
+// tells whether it came from finite numbers: error 6 if it is not finite itself then. Error 9 for
+// an empty shape.
 
-template <class Element> Ref<clsMatrix> RealElements(Sizes sizes, Element element)
+template <class Rule> Ref<clsMatrix> RealElements(Sizes sizes, Rule rule)
 {
     Result<clsMatrix> result(sizes);
-    double* const out = result.Data();
-    for (std::size_t k = 0; k < result.Size(); ++k)
-        out[k] = element(k);
+    ComputeEach(
+        result, [&](std::size_t k) { return rule.Real(k); },
+        [&](std::size_t k) { return rule.FromFinite(k); });
     return std::move(result).Object();
 }
 
-template <class Element> Ref<clsComplexMatrix> ComplexElements(Sizes sizes, Element element)
+template <class Rule> Ref<clsComplexMatrix> ComplexElements(Sizes sizes, Rule rule)
 {
     Result<clsComplexMatrix> result(sizes);
-    double* const re = result.RealData();
-    double* const im = result.ImageData();
-    for (std::size_t k = 0; k < result.Size(); ++k) {
-        const ComplexValue z = element(k);
-        re[k] = z.re;
-        im[k] = z.im;
-    }
+    ComputeEach(
+        result, [&](std::size_t k) { return rule.Complex(k); },
+        [&](std::size_t k) { return rule.FromFinite(k); });
     return std::move(result).Object();
 }
 
-template <class Element> Ref<clsMatrixComplex> ObjectElements(Sizes sizes, Element element)
+template <class Rule> Ref<clsComplex> ComplexObject(Rule& rule, std::size_t k)
+{
+    const ComplexValue z = rule.Complex(k);
+    if (!Finite(z) && rule.FromFinite(k)) Raise(ErrorNumber::Overflow);
+    return MakeRef<clsComplex>(z.re, z.im);
+}
+
+template <class Rule> Ref<clsMatrixComplex> ObjectElements(Sizes sizes, Rule rule)
 {
     Array<Ref<clsComplex>> store = UnwrittenStore<Ref<clsComplex>>(sizes);
     std::size_t k = 0;
-    for (Ref<clsComplex>& object : store.Span()) {
-        const ComplexValue z = element(k++);
-        object = MakeRef<clsComplex>(z.re, z.im);
-    }
+    for (Ref<clsComplex>& object : store.Span())
+        object = ComplexObject(rule, k++);
     return NewMatrix<clsMatrixComplex>(std::move(store));
 }
 
-/// A real function that has complex values outside its domain: a clsMatrix if all elements lie
-/// inside it. Otherwise a clsComplexMatrix, in which those inside keep their real value and have an
-/// imaginary part of zero.
+/// A rule for real elements among complex ones: those inside the domain keep their real value and
+/// have an imaginary part of zero.
+template <class Rule> struct Promoted {
+    Rule rule;
+
+    ComplexValue Complex(std::size_t k)
+    {
+        return rule.InDomain(k) ? ComplexOf(rule.Real(k)) : rule.Complex(k);
+    }
+    bool FromFinite(std::size_t k) const { return rule.FromFinite(k); }
+};
+
+/// A clsMatrix if all elements lie inside the domain of the rule, otherwise a clsComplexMatrix.
 template <class Rule> Variant RealOrComplex(Sizes sizes, std::size_t count, Rule rule)
 {
-    std::size_t inside = 0;
-    while (inside < count && rule.InDomain(inside))
-        ++inside;
-    if (inside == count) return RealElements(sizes, [&](std::size_t k) { return rule.Real(k); });
-    return ComplexElements(sizes, [&](std::size_t k) {
-        return rule.InDomain(k) ? ComplexOf(rule.Real(k)) : rule.Complex(k);
-    });
+    for (std::size_t k = 0; k < count; ++k)
+        if (!rule.InDomain(k)) return ComplexElements(sizes, Promoted<Rule>{std::move(rule)});
+    return RealElements(sizes, std::move(rule));
 }
 
-/// A function of one value over the elements of a real matrix.
-template <class F, class S> struct Applied {
+/// A function of one number over the elements of a real matrix.
+template <class F, class S> struct RealRule {
     F f;
     S in;
     OneTelling tell = {};
 
     bool InDomain(std::size_t k) const { return f.InDomain(in[k]); }
-    double Real(std::size_t k)
-    {
-        const double x = in[k];
-        return Computed(f.Real(x, tell), x);
-    }
-    ComplexValue Complex(std::size_t k)
-    {
-        const ComplexValue z = ComplexOf(in[k]);
-        return Computed(f.Complex(z, tell), z);
-    }
+    double Real(std::size_t k) { return f.Real(in[k], tell); }
+    ComplexValue Complex(std::size_t k) { return f.Complex(ComplexOf(in[k]), tell); }
+    bool FromFinite(std::size_t k) const { return Finite(in[k]); }
 };
 
 template <class F, class M> Ref<clsMatrix> MapReal(const M& m)
 {
-    Applied<F, decltype(SheetOf(m))> applied{{}, SheetOf(m)};
-    return RealElements(SizesOf(m), [&](std::size_t k) { return applied.Real(k); });
+    const auto in = SheetOf(m);
+    return RealElements(SizesOf(m), RealRule<F, decltype(in)>{{}, in});
 }
 
 template <class F, class M> Variant MapOrPromote(const M& m, F f = {})
 {
     const auto in = SheetOf(m);
-    return RealOrComplex(SizesOf(m), in.Size(), Applied<F, decltype(in)>{f, in});
+    return RealOrComplex(SizesOf(m), in.Size(), RealRule<F, decltype(in)>{f, in});
 }
 
-// A complex formula over the elements of a matrix or on one number. It takes the number and, if it
-// has a guard, the teller.
+/// A complex formula over elements of any kind. It takes the number and, if it has a guard, the
+/// teller.
+template <class Formula, class S> struct ComplexRule {
+    Formula formula;
+    S in;
+    OneTelling tell = {};
 
-template <class S, class Formula>
-auto ComplexElement(const S& in, Formula formula, OneTelling told = {})
-{
-    return [in, formula, tell = std::move(told)](std::size_t k) mutable {
-        const ComplexValue z = ComplexOf(in[k]);
+    ComplexValue Complex(std::size_t k)
+    {
         if constexpr (std::invocable<Formula, ComplexValue>)
-            return Computed(formula(z), z);
+            return formula(ComplexOf(in[k]));
         else
-            return Computed(formula(z, tell), z);
-    };
-}
+            return formula(ComplexOf(in[k]), tell);
+    }
+    bool FromFinite(std::size_t k) const { return Finite(ComplexOf(in[k])); }
+};
+template <class Formula, class S> ComplexRule(Formula, S) -> ComplexRule<Formula, S>;
+template <class Formula, class S> ComplexRule(Formula, S, OneTelling) -> ComplexRule<Formula, S>;
 
 template <class Formula>
 Ref<clsComplex> MapComplex(const clsComplex& z, Formula formula, OneTelling told = {})
 {
-    const ComplexValue w = ComplexElement(SheetOf(z), formula, std::move(told))(0);
-    return MakeRef<clsComplex>(w.re, w.im);
+    ComplexRule rule{formula, SheetOf(z), std::move(told)};
+    return ComplexObject(rule, 0);
 }
 
 template <class Formula>
 Ref<clsComplexMatrix> MapComplex(const clsComplexMatrix& m, Formula formula, OneTelling told = {})
 {
-    return ComplexElements(SizesOf(m), ComplexElement(SheetOf(m), formula, std::move(told)));
+    return ComplexElements(SizesOf(m), ComplexRule{formula, SheetOf(m), std::move(told)});
 }
 
 template <class Formula>
 Ref<clsMatrixComplex> MapComplex(const clsMatrixComplex& m, Formula formula, OneTelling told = {})
 {
-    return ObjectElements(SizesOf(m), ComplexElement(SheetOf(m), formula, std::move(told)));
+    return ObjectElements(SizesOf(m), ComplexRule{formula, SheetOf(m), std::move(told)});
 }
 
-inline double CheckedMagnitude(ComplexValue z)
-{
-    return Computed(formulas::Magnitude(z), z.re, z.im);
-}
+template <class S> struct MagnitudeRule {
+    S in;
+
+    double Real(std::size_t k) const { return formulas::Magnitude(ComplexOf(in[k])); }
+    bool FromFinite(std::size_t k) const { return Finite(ComplexOf(in[k])); }
+};
 
 template <class M> Ref<clsMatrix> Magnitudes(const M& m)
 {
-    return RealElements(SizesOf(m), [in = SheetOf(m)](std::size_t k) {
-        return CheckedMagnitude(ComplexOf(in[k]));
-    });
+    const auto in = SheetOf(m);
+    return RealElements(SizesOf(m), MagnitudeRule<decltype(in)>{in});
 }
 
 } // namespace lumora

@@ -46,7 +46,7 @@ bool IsRealPower(double base, double exponent)
 double RealPower(double base, double exponent, OneTelling& tell)
 {
     if (base == 0.0 && exponent < 0.0) return tell.Instead(kDivideByZero, kHuge);
-    return Computed(std::pow(base, exponent), base, exponent);
+    return std::pow(base, exponent);
 }
 
 /// r^y at the angle y t of base r at t; for y = c + di, exp(c log r - d t) at d log r + c t.
@@ -69,11 +69,7 @@ ComplexValue ComplexPower(ComplexValue base, ComplexValue exponent, OneTelling& 
 {
     if (base.im == 0.0 && exponent.im == 0.0 && IsRealPower(base.re, exponent.re))
         return {RealPower(base.re, exponent.re, tell), 0.0};
-    const ComplexValue power = PolarPower(base, exponent, tell);
-    const auto checked = [&](double part) {
-        return Computed(part, base.re, base.im, exponent.re, exponent.im);
-    };
-    return {checked(power.re), checked(power.im)};
+    return PolarPower(base, exponent, tell);
 }
 
 /// Element k to the power of element k, or of the only one.
@@ -88,6 +84,10 @@ template <class A, class B> struct Powers {
     ComplexValue Complex(std::size_t k)
     {
         return ComplexPower(ComplexOf(base[k]), ComplexOf(ExponentOf(k)), tell);
+    }
+    bool FromFinite(std::size_t k) const
+    {
+        return Finite(ComplexOf(base[k])) && Finite(ComplexOf(ExponentOf(k)));
     }
 };
 
@@ -107,13 +107,12 @@ template <class Base> Variant PowerOfMatrix(const Base& matrix, const Variant& e
             return {};
         }
         Powers<A, B> powers{base, y};
-        const auto complex_power = [&](std::size_t k) { return powers.Complex(k); };
         if constexpr (kIsReal<A> && kIsReal<B>)
             return RealOrComplex(SizesOf(matrix), base.Size(), powers);
         else if constexpr (kIsObjects<A> && kIsObjects<B>)
-            return ObjectElements(SizesOf(matrix), complex_power);
+            return ObjectElements(SizesOf(matrix), powers);
         else
-            return ComplexElements(SizesOf(matrix), complex_power);
+            return ComplexElements(SizesOf(matrix), powers);
     });
 }
 
@@ -142,16 +141,11 @@ Variant PowerOf(const clsMatrixComplex& base, const Variant& exponent)
 Variant PowerOf(const clsComplex& base, const Variant& exponent)
 {
     return WithExponent(exponent, kNumberOrCls, [&]<class S>(const S& y) -> Variant {
-        OneTelling tell;
-        const auto power = [&](std::size_t k) {
-            return ComplexPower({base.Real, base.Image}, ComplexOf(y[k]), tell);
-        };
-        if constexpr (kIsSingle<S>) {
-            const ComplexValue z = power(0);
-            return MakeRef<clsComplex>(z.re, z.im);
-        } else {
-            return ComplexElements({y.rows, y.columns}, power);
-        }
+        Powers<Single<ComplexValue>, S> powers{SheetOf(base), y};
+        if constexpr (kIsSingle<S>)
+            return ComplexObject(powers, 0);
+        else
+            return ComplexElements({y.rows, y.columns}, powers);
     });
 }
 

@@ -9,6 +9,7 @@
 #include "numeric/clsLong.h"
 #include "numeric/clsMatrix.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
@@ -105,5 +106,19 @@ private:
     Array<double> re_;
     Array<double> im_;
 };
+
+/// Element k = element(k), block by block, so that the look for overflows finds its results in the
+/// nearest cache. Error 6 if one is not finite although what it came from was: from_finite(k).
+template <class R, class Element, class FromFinite>
+void ComputeEach(Result<R>& result, Element&& element, FromFinite&& from_finite)
+{
+    constexpr std::size_t kBlock = 1024;
+    for (std::size_t from = 0; from < result.Size(); from += kBlock) {
+        const std::size_t to = std::min(from + kBlock, result.Size());
+        if (result.Fill(from, to, element)) continue;
+        for (std::size_t k = from; k < to; ++k)
+            if (!Finite(result[k]) && from_finite(k)) Raise(ErrorNumber::Overflow);
+    }
+}
 
 } // namespace lumora

@@ -1,32 +1,13 @@
 #include "numeric/ComplexFormulas.h"
+#include "numeric/Computed.h"
 #include "numeric/LogBase.h"
 #include "numeric/Mapping.h"
 #include "numeric/Power.h"
 #include "numeric/clsComplex.h"
 
-#include <cmath>
-
 namespace lumora {
 
-namespace {
-
-ComplexValue Same(ComplexValue z)
-{
-    return z;
-}
-
-/// An operation on z and w, which makes a new object.
-Ref<clsComplex> With(const clsComplex& z, const clsComplex& w,
-                     ComplexValue (*combine)(ComplexValue, ComplexValue))
-{
-    const ComplexValue other = SheetOf(w)[0];
-    return MapComplex(z, [&](ComplexValue own) {
-        const ComplexValue result = combine(own, other);
-        return std::isfinite(other.re) && std::isfinite(other.im) ? Computed(result, own) : result;
-    });
-}
-
-} // namespace
+using elementary::CheckedExp;
 
 // clang-format off
 Ref<clsComplex> clsComplex::SinM()    const { return MapComplex(*this, formulas::Sin); }
@@ -60,16 +41,16 @@ Ref<clsComplex> clsComplex::ExpM()    const { return MapComplex(*this, formulas:
 Ref<clsComplex> clsComplex::SqrM()    const { return MapComplex(*this, formulas::Sqrt); }
 Variant         clsComplex::Power(const Variant& Obj)      const { return PowerOf(*this, Obj); }
 Ref<clsComplex> clsComplex::LogBaseM(const Variant& base)  const { return ComplexLogBase(*this, base); }
-double          clsComplex::AbsM()       const { return CheckedMagnitude({Real, Image}); }
+double          clsComplex::AbsM()       const { return Computed(formulas::Magnitude({Real, Image}), Real, Image); }
 Ref<clsComplex> clsComplex::Conj()       const { return MapComplex(*this, formulas::Conj); }
 Ref<clsComplex> clsComplex::CTranspose() const { return Conj(); }
-Ref<clsComplex> clsComplex::Transpose()  const { return MapComplex(*this, Same); }
+Ref<clsComplex> clsComplex::Transpose()  const { return CopyObject(); }
 
-double          clsComplex::Hcos(double x) const { return (elementary::CheckedExp(x) + elementary::CheckedExp(-x)) / 2.0; }
-double          clsComplex::Hsin(double x) const { return (elementary::CheckedExp(x) - elementary::CheckedExp(-x)) / 2.0; }
-Ref<clsComplex> clsComplex::Mul_z(const clsComplex& w)   const { return With(*this, w, formulas::Product); }
-Ref<clsComplex> clsComplex::Plus_z(const clsComplex& w)  const { return With(*this, w, formulas::Sum); }
-Ref<clsComplex> clsComplex::Minus_z(const clsComplex& w) const { return With(*this, w, formulas::Difference); }
+double          clsComplex::Hcos(double x) const { return (CheckedExp(x) + CheckedExp(-x)) / 2.0; }
+double          clsComplex::Hsin(double x) const { return (CheckedExp(x) - CheckedExp(-x)) / 2.0; }
+Ref<clsComplex> clsComplex::Mul_z(const clsComplex& w)   const { return MtimesComplexNum(w); }
+Ref<clsComplex> clsComplex::Plus_z(const clsComplex& w)  const { return PlusComplexNum(w); }
+Ref<clsComplex> clsComplex::Minus_z(const clsComplex& w) const { return MinusComplexNum(w); }
 double          clsComplex::Atan2_z() const { return Atan2(Image, Real); }
 Ref<clsComplex> clsComplex::Sqrt_z()  const { return SqrM(); }
 double          clsComplex::Angle_z() const { return 0.0; }
