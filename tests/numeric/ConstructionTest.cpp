@@ -188,7 +188,7 @@ TEST(SetArray, TakesEveryKindOfNumbers)
     whole.SetArray(Row<std::int32_t>({2147483647, -2147483647 - 1}));
     EXPECT_EQ(Values(whole), (Longs{2147483647, -2147483647 - 1}));
     EXPECT_EQ(Raised([] { clsLong().SetArray(Row<double>({3e9})); }), 6);
-    EXPECT_EQ(Raised([] { clsLong().SetArray(Array<Ref<clsComplex>>()); }), 9);
+    EXPECT_EQ(Raised([] { clsLong().SetArray(Array<Ref<clsComplex>>()); }), 13);
 }
 
 TEST(SetArray, ShowsAMessageForAnotherValueAndChangesNothing)
