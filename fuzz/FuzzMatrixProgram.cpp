@@ -64,6 +64,8 @@ private:
     MessageBoxScope scope_{*this};
 };
 
+} // namespace
+
 class Program {
 public:
     explicit Program(std::span<const std::uint8_t> code) : code_(code) {}
@@ -84,7 +86,7 @@ public:
     }
 
 private:
-    int Byte() { return at_ < code_.size() ? code_[at_++] : 0; }
+    std::uint8_t Byte() { return at_ < code_.size() ? code_[at_++] : std::uint8_t{0}; }
     std::int32_t Small() { return Byte() % 7; }
     std::int32_t Index() { return Byte() % 10 - 2; }
     double Number()
@@ -100,9 +102,15 @@ private:
         return kTexts[Byte() % std::size(kTexts)];
     }
 
-    template <class M> static Variant Held(Ref<M> object) { return OrEmpty(std::move(object)); }
-    static Variant Held(Variant value) { return value; }
-    static Variant Held(bool value) { return std::int16_t{value}; }
+    template <class T> static Variant Held(T result)
+    {
+        if constexpr (requires { OrEmpty(result); })
+            return OrEmpty(std::move(result));
+        else if constexpr (std::is_same_v<T, bool>)
+            return static_cast<std::int16_t>(result);
+        else
+            return result;
+    }
 
     /// A step's result takes the place of its operand, unless it has grown too large to go on with.
     static void Keep(Variant& place, const Variant& result)
@@ -122,39 +130,6 @@ private:
         value.Visit([](const auto& held) {
             if constexpr (requires { SheetOf(*held); })
                 Demand(fuzz::ComesBack([&] { SheetOf(*held); }));
-        });
-    }
-
-    Variant Step(int operation, Variant& a, const Variant& b)
-    {
-        switch (operation) {
-        case 0:
-            return Created();
-        case 1:
-            return Routine(a, b);
-        case 2:
-            return PlainArray(a);
-        default:
-            break;
-        }
-        const int which = Byte();
-        return a.Visit([&](auto& held) -> Variant {
-            if constexpr (requires { held->TypeOfMatrix; }) {
-                auto& m = *held;
-                switch (operation) {
-                case 3:
-                    return Operated(m, b, which);
-                case 4:
-                    return Function(m, b, which);
-                case 5:
-                    return Shaped(m, which);
-                case 6:
-                    return Ordered(m, which);
-                default:
-                    return Accessed(m, b, which);
-                }
-            }
-            return {};
         });
     }
 
@@ -236,7 +211,7 @@ private:
         case 8:
             return Held(GetSizeOfArray(a));
         case 9:
-            return Held(clsMatrix().clsEye(a, b));
+            return Held(clsMatrix().clsEye(Small(), IsNumeric(b) ? Variant(Small()) : b));
         case 10:
             return Held(IsNumericArray(a) && IsIntegerArray(b));
         case 11:
@@ -390,13 +365,45 @@ private:
         return {};
     }
 
+    Variant Step(int operation, Variant& a, const Variant& b)
+    {
+        switch (operation) {
+        case 0:
+            return Created();
+        case 1:
+            return Routine(a, b);
+        case 2:
+            return PlainArray(a);
+        default:
+            break;
+        }
+        const int which = Byte();
+        return a.Visit([&](auto& held) -> Variant {
+            if constexpr (requires { held->TypeOfMatrix; }) {
+                auto& m = *held;
+                switch (operation) {
+                case 3:
+                    return Operated(m, b, which);
+                case 4:
+                    return Function(m, b, which);
+                case 5:
+                    return Shaped(m, which);
+                case 6:
+                    return Ordered(m, which);
+                default:
+                    return Accessed(m, b, which);
+                }
+            }
+            return {};
+        });
+    }
+
     std::span<const std::uint8_t> code_;
     std::size_t at_ = 0;
     KnownMessages messages_;
     std::array<Variant, 8> registers_;
 };
 
-} // namespace
 } // namespace lumora
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

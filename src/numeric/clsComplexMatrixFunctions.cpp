@@ -35,7 +35,6 @@ Ref<clsComplexMatrix> clsComplexMatrix::Log2M()   const { return MapComplex(*thi
 Ref<clsComplexMatrix> clsComplexMatrix::Log10M()  const { return MapComplex(*this, formulas::Log10); }
 Ref<clsComplexMatrix> clsComplexMatrix::ExpM()    const { return MapComplex(*this, formulas::Exp); }
 Ref<clsComplexMatrix> clsComplexMatrix::SqrM()    const { return MapComplex(*this, formulas::Sqrt); }
-Ref<clsComplexMatrix> clsComplexMatrix::Conj()    const { return MapComplex(*this, formulas::Conj); }
 Ref<clsMatrix>        clsComplexMatrix::AbsM()    const { return Magnitudes(*this); }
 Variant               clsComplexMatrix::Power(const Variant& Obj)     const { return PowerOf(*this, Obj); }
 Ref<clsComplexMatrix> clsComplexMatrix::LogBaseM(const Variant& base) const { return ComplexLogBase(*this, base); }

@@ -39,7 +39,6 @@ Variant        clsLong::Log2M()   const { return MapOrPromote<Log2>(*this); }
 Variant        clsLong::Log10M()  const { return MapOrPromote<Log10>(*this); }
 Variant        clsLong::SqrM()    const { return MapOrPromote<Sqr>(*this); }
 Ref<clsMatrix> clsLong::AbsM()    const { return MapReal<Abs>(*this); }
-Ref<clsLong>   clsLong::Conj()    const { return CopyObject(); }
 Variant        clsLong::Power(const Variant& Obj)     const { return PowerOf(*this, Obj); }
 Variant        clsLong::LogBaseM(const Variant& base) const { return RealLogBase(*this, base); }
 // clang-format on

@@ -35,7 +35,6 @@ Ref<clsMatrixComplex> clsMatrixComplex::Log2M()   const { return MapComplex(*thi
 Ref<clsMatrixComplex> clsMatrixComplex::Log10M()  const { return MapComplex(*this, formulas::Log10); }
 Ref<clsMatrixComplex> clsMatrixComplex::ExpM()    const { return MapComplex(*this, formulas::Exp); }
 Ref<clsMatrixComplex> clsMatrixComplex::SqrM()    const { return MapComplex(*this, formulas::Sqrt); }
-Ref<clsMatrixComplex> clsMatrixComplex::Conj()    const { return MapComplex(*this, formulas::Conj); }
 Ref<clsMatrix>        clsMatrixComplex::AbsM()    const { return Magnitudes(*this); }
 Variant               clsMatrixComplex::Power(const Variant& Obj)     const { return PowerOf(*this, Obj); }
 Ref<clsMatrixComplex> clsMatrixComplex::LogBaseM(const Variant& base) const { return ComplexLogBase(*this, base); }

@@ -38,7 +38,6 @@ Variant        clsMatrix::Log2M()   const { return MapOrPromote<Log2>(*this); }
 Variant        clsMatrix::Log10M()  const { return MapOrPromote<Log10>(*this); }
 Variant        clsMatrix::SqrM()    const { return MapOrPromote<Sqr>(*this); }
 Ref<clsMatrix> clsMatrix::AbsM()    const { return MapReal<Abs>(*this); }
-Ref<clsMatrix> clsMatrix::Conj()    const { return CopyObject(); }
 Variant        clsMatrix::Power(const Variant& Obj)     const { return PowerOf(*this, Obj); }
 Variant        clsMatrix::LogBaseM(const Variant& base) const { return RealLogBase(*this, base); }
 // clang-format on
