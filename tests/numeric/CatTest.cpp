@@ -165,6 +165,9 @@ TEST(Cat, TakesAnArrayForTheClassThatItsElementsCallFor)
     Array<Variant> numbers(2);
     numbers(1) = 1.5;
     numbers(2) = "2";
+    Array<Variant> complexes(2);
+    complexes(1) = 1.5;
+    complexes(2) = Scalar(2, 3);
     Array<Variant> mixed(2);
     mixed(1) = 1.5;
     mixed(2) = "two";
@@ -175,6 +178,7 @@ TEST(Cat, TakesAnArrayForTheClassThatItsElementsCallFor)
                                                      {Row<std::string>({"1", "2"}), "v"},
                                                      {Row({Scalar(1, 2), Scalar(3, 4)}), "c"},
                                                      {numbers, "r"},
+                                                     {complexes, "c"},
                                                      {mixed, "v"}};
     for (const auto& [array, tag] : cases) {
         const Rectangle right = Told2D(Cat(2, one, array));
