@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
-"""Writes the first inputs of the fuzz targets: valid, odd and damaged WAVE files.
+"""Writes the first inputs of the fuzz targets: valid, odd and damaged WAVE files, and programs over
+matrix objects.
 
-make_seeds.py OUTDIR   writes OUTDIR/FuzzWaveHeader/* and OUTDIR/FuzzWaveSamples/*.
+make_seeds.py OUTDIR   writes OUTDIR/TARGET/* for every target.
 """
 import pathlib
 import struct
@@ -91,6 +92,17 @@ def ranges():
         yield f"{reader}-beyond", reader | 0x30, 70000, MOST
 
 
+def programs():
+    """Two objects of each pair of classes and sizes, and one operation on them in each group."""
+    for kind in range(10):
+        for other in range(10):
+            for group in range(1, 8):
+                create = bytes([0, 0, 0, kind, 2, 3, *range(12), 0, 1, 0, other, 2, 3, *range(9, 21)])
+                steps = b"".join(bytes([group, 0, 1, which, 3, 4, 3, 4])
+                                 for which in range(kind, 32, 10))
+                yield f"{kind}-{other}-{group}", create + steps
+
+
 def write_all(folder, files):
     folder.mkdir(parents=True, exist_ok=True)
     for name, content in files:
@@ -103,6 +115,7 @@ def main(out):
     bodies = [*valid_files(), *odd_files(),
               ("promise", plain(size=60000)), ("big-promise", plain(size=10**8)),
               ("half-sample", plain(data=bytes(7), size=10))]
+    write_all(out / "FuzzMatrixProgram", programs())
     write_all(out / "FuzzWaveSamples",
               ((f"{name}-{which}", struct.pack("<Bii", choice, first, last) + content)
                for name, content in bodies for which, choice, first, last in ranges()))

@@ -1,5 +1,5 @@
+#include "numeric/Operands.h"
 #include "numeric/ShapedStores.h"
-#include "numeric/clsComplex.h"
 #include "numeric/clsComplexMatrix.h"
 #include "numeric/clsLong.h"
 #include "numeric/clsMatrix.h"
@@ -95,38 +95,27 @@ template <class T> Array<T> CutOut(const Sheet<T>& from, const Window& window)
 struct Pick {
     enum class Of { Rows, Columns };
     Of of;
-    Ref<clsLong> owner;
     std::span<const std::int32_t> list;
     std::int32_t left;
     std::int32_t right;
 };
 
-/// Empty after the message about what stands in the place of a list.
-Ref<clsLong> IndexList(const Variant& indices)
+/// Null after the message about what stands in the place of a list.
+const clsLong* IndexList(const Variant& indices)
 {
-    return indices.Visit([]<class T>(const T& held) {
-        Ref<clsLong> list;
-        if constexpr (requires { held->TypeOfMatrix; }) {
-            if (held->TypeOfMatrix != kTag<clsLong>)
-                ShowPlainMessage(kIndicesMustBeLong);
-            else if constexpr (std::same_as<T, Ref<clsLong>>)
-                list = held;
-            else
-                Raise(ErrorNumber::TypeMismatch);
-        } else {
-            ShowPlainMessage(kIndicesMustBeObject);
-        }
-        return list;
-    });
+    const std::string* tag = TagOf(indices);
+    if (tag && *tag == kTag<clsLong>) return &ObjectOf<clsLong>(indices);
+    ShowPlainMessage(tag ? kIndicesMustBeLong : kIndicesMustBeObject);
+    return nullptr;
 }
 
 std::optional<Pick> PickIn(Sizes sizes, const Variant& indices, std::int32_t left,
                            std::int32_t right, std::int16_t flag)
 {
-    const Ref<clsLong> list = IndexList(indices);
+    const clsLong* list = IndexList(indices);
     if (!list) return std::nullopt;
     const auto of = flag == 1 ? Pick::Of::Rows : Pick::Of::Columns;
-    const Pick pick{of, list, SheetOf(*list).values, std::max(left, 1),
+    const Pick pick{of, SheetOf(*list).values, std::max(left, 1),
                     right < 1 ? sizes.columns : right};
     const std::int32_t highest = of == Pick::Of::Rows ? sizes.rows : sizes.columns;
     const bool listed = std::all_of(pick.list.begin(), pick.list.end(),

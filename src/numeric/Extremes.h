@@ -23,13 +23,35 @@ template <class S>
 using StandingOf =
     Standing<std::remove_cvref_t<decltype(ValueOf(std::declval<const S&>()[std::size_t{}]))>>;
 
+/// One line whose elements are neighbours. It looks for the next winner without touching what
+/// stands, so that no element waits for the one before it.
+template <class S, class Wins>
+StandingOf<S> ExtremeOfLine(StandingOf<S> standing, const S& sheet, std::size_t from,
+                            std::size_t length, Wins wins)
+{
+    for (std::size_t k = 0; k < length; ++k) {
+        while (k < length && !wins(ValueOf(sheet[from + k]), standing.value))
+            ++k;
+        if (k < length) standing = {ValueOf(sheet[from + k]), k};
+    }
+    return standing;
+}
+
 template <class S, class Start, class Wins>
 std::vector<StandingOf<S>> ExtremesOfLines(Lines lines, const S& sheet, Start start, Wins wins)
 {
-    return FoldLines<StandingOf<S>>(lines, sheet, start,
-                                    [wins](StandingOf<S>& standing, const auto& x, std::size_t k) {
-                                        if (wins(x, standing.value)) standing = {x, k};
-                                    });
+    const LineLayout layout = LayoutOf(lines, {sheet.rows, sheet.columns});
+    if (layout.next_element != 1)
+        return FoldLines<StandingOf<S>>(
+            lines, sheet, start, [wins](StandingOf<S>& standing, const auto& x, std::size_t k) {
+                if (wins(x, standing.value)) standing = {x, k};
+            });
+    std::vector<StandingOf<S>> standings;
+    standings.reserve(layout.count);
+    for (std::size_t line = 0; line < layout.count; ++line)
+        standings.push_back(
+            ExtremeOfLine(start(line), sheet, layout.At(line, 0), layout.length, wins));
+    return standings;
 }
 
 /// The extreme of each line, from its first element on.
@@ -50,22 +72,23 @@ template <class T> struct Found {
     std::size_t column;
 };
 
-/// The first extreme in scanning order, rows outer and columns inner. The store is not read in that
-/// order: each row keeps the best of its own, if it beats the first element of all. Error 9 without
-/// elements.
+/// The first extreme in scanning order, rows outer and columns inner; not before the first element
+/// of all, so that a NaN there stands. Error 9 without elements.
 template <class S, class Wins> auto FirstExtreme(const S& sheet, Wins wins)
 {
     if (sheet.Size() == 0) Raise(ErrorNumber::Subscript);
-    const Lines lines = sheet.columns == 1 ? Lines::Columns : Lines::Rows;
+    // The store is read from front to back, by the fewer lines; of equal ones the place decides.
+    const Lines lines = sheet.rows < sheet.columns ? Lines::Rows : Lines::Columns;
     const StandingOf<S> first{ValueOf(sheet[0]), 0};
-    const auto standings = ExtremesOfLines(
-        lines, sheet, [&first](std::size_t) { return first; }, wins);
-    Found<decltype(first.value)> found{first.value, 0, 0};
+    const auto start = [&first](std::size_t) { return first; };
+    using Extreme = Found<decltype(first.value)>;
+    Extreme found{first.value, 0, 0};
     std::size_t line = 0;
-    for (const StandingOf<S>& standing : standings) {
-        if (wins(standing.value, found.value))
-            found = lines == Lines::Rows ? decltype(found){standing.value, line, standing.place}
-                                         : decltype(found){standing.value, standing.place, line};
+    for (const auto& [value, place] : ExtremesOfLines(lines, sheet, start, wins)) {
+        const Extreme next =
+            lines == Lines::Rows ? Extreme{value, line, place} : Extreme{value, place, line};
+        const bool earlier = std::pair(next.row, next.column) < std::pair(found.row, found.column);
+        if (wins(value, found.value) || (earlier && !wins(found.value, value))) found = next;
         ++line;
     }
     return found;

@@ -17,7 +17,8 @@ Variant Max(const Variant& a, const Variant& b);
 /// Do the squared magnitudes m1 and m2 of two complex numbers differ: m2 + Tolerance > m1, or
 /// m2 - Tolerance < m1? Error 6 where the squares of finite parts overflow.
 /// Deliberate: a positive Tolerance lets even equal magnitudes differ, so that the angle is never
-/// asked; a negative one makes a band of its width in which they do not.
+/// asked; a negative one makes a band of its width in which they do not, and an order by it depends
+/// on which elements meet first.
 bool MagnitudesDiffer(double re1, double im1, double re2, double im2, double Tolerance = 0.0);
 
 /// The order of complex numbers: by squared magnitude where these differ, else by angle.

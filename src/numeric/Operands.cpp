@@ -1,7 +1,7 @@
 #include "numeric/Operands.h"
 
 #include "base/Numbers.h"
-#include "base/Text.h"
+#include "numeric/ComplexText.h"
 #include "numeric/clsComplex.h"
 #include "numeric/clsComplexMatrix.h"
 #include "numeric/clsLong.h"
@@ -10,7 +10,7 @@
 #include "numeric/clsString.h"
 #include "numeric/clsVariant.h"
 
-#include <string_view>
+#include <optional>
 
 namespace lumora {
 
@@ -28,47 +28,16 @@ template <class To, class Convert> Array<To> ArrayOf(const Variant& array, Conve
     });
 }
 
-double ImaginaryFactor(std::string_view text)
-{
-    if (text.empty() || text == "+") return 1.0;
-    return text == "-" ? -1.0 : CDbl(text);
-}
-
-/// Where the sign of the imaginary part stands: the last sign that is not an exponent's. 0 if there
-/// is no real part.
-std::size_t ImaginarySign(std::string_view text)
-{
-    for (std::size_t k = text.size(); k-- > 1;)
-        if ((text[k] == '+' || text[k] == '-') && text[k - 1] != 'e' && text[k - 1] != 'E')
-            return k;
-    return 0;
-}
-
-std::string WithoutBlanks(std::string_view text)
-{
-    std::string kept;
-    for (const char c : text)
-        if (c != ' ') kept += c;
-    return kept;
-}
-
-Ref<clsComplex> ComplexOfText(const std::string& written)
-{
-    const std::string text = WithoutBlanks(written);
-    if (text.empty() || text.back() != 'i') return MakeRef<clsComplex>(CDbl(text), 0.0);
-    const std::string_view number = std::string_view(text).substr(0, text.size() - 1);
-    const std::size_t sign = ImaginarySign(number);
-    const double re = sign == 0 ? 0.0 : CDbl(number.substr(0, sign));
-    return MakeRef<clsComplex>(re, ImaginaryFactor(number.substr(sign)));
-}
-
 Ref<clsComplex> ComplexOf(const std::string& text)
 {
-    return ComplexOfText(text);
+    const std::optional<ComplexValue> z = SpelledComplex(text);
+    if (!z) Raise(ErrorNumber::TypeMismatch);
+    return MakeRef<clsComplex>(z->re, z->im);
 }
 template <std::same_as<Variant> T> Ref<clsComplex> ComplexOf(const T& value)
 {
-    return value.IsText() ? ComplexOfText(value.template As<std::string>())
+    if (value.IsNumber()) return MakeRef<clsComplex>(value.Number(), 0.0);
+    return value.IsText() ? ComplexOf(value.template As<std::string>())
                           : value.template As<Ref<clsComplex>>();
 }
 

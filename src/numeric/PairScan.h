@@ -20,17 +20,17 @@ template <class Less> PairScan ScanInPairs(std::span<const double> x, Less less)
     double smallest = x[0];
     double largest = x[0];
     for (std::size_t k = x.size() % 2; k < x.size(); k += 2) {
-        const bool falls = less(x[k + 1], x[k]);
-        const double low = falls ? x[k + 1] : x[k];
-        const double high = falls ? x[k] : x[k + 1];
+        const std::size_t falls = less(x[k + 1], x[k]) ? 1 : 0;
+        const double low = x[k + falls];
+        const double high = x[k + 1 - falls];
         if (less(low, smallest)) {
             smallest = low;
-            found.smallest = falls ? k + 1 : k;
+            found.smallest = k + falls;
         }
         if (less(largest, high)) {
             largest = high;
-            // Equal ones do not fall, and the first of them counts.
-            found.largest = falls || !less(x[k], x[k + 1]) ? k : k + 1;
+            // Of equal ones the first counts.
+            found.largest = less(x[k], x[k + 1]) ? k + 1 : k;
         }
     }
     return found;

@@ -1,21 +1,18 @@
 #include "numeric/Predicates.h"
 
 #include "base/Numbers.h"
-#include "base/Text.h"
-#include "numeric/Stores.h"
+#include "numeric/ComplexText.h"
+#include "numeric/Operands.h"
 #include "numeric/clsComplex.h"
 #include "numeric/clsComplexMatrix.h"
 #include "numeric/clsLong.h"
 #include "numeric/clsMatrix.h"
-#include "numeric/clsMatrixComplex.h"
-#include "numeric/clsString.h"
-#include "numeric/clsVariant.h"
 
 #include <algorithm>
 #include <cmath>
 #include <concepts>
 #include <optional>
-#include <string_view>
+#include <string>
 
 namespace lumora {
 
@@ -25,11 +22,6 @@ template <class T>
 concept PlainArray = requires(const T& held)
 {
     held.Dimensions();
-};
-template <class T>
-concept Object = requires(const T& held)
-{
-    held->TypeOfMatrix;
 };
 
 /// The number that a value is or spells. Array and object are neither.
@@ -53,20 +45,6 @@ bool HasNoFraction(double x)
     return static_cast<double>(static_cast<std::int64_t>(x)) == x;
 }
 
-/// The part before a trailing "i": nothing, a number, a sign, or two parts that meet in a sign.
-bool IsBeforeI(std::string_view text)
-{
-    const std::string_view rest = text.substr(0, text.find_last_not_of(' ') + 1);
-    if (rest.empty() || rest == "+" || rest == "-" || SpelledNumber(rest)) return true;
-    const auto sign = rest.find_last_not_of("0123456789. ");
-    if (sign == std::string_view::npos || (rest[sign] != '+' && rest[sign] != '-')) return false;
-    const std::string_view re = rest.substr(0, sign);
-    const std::string_view im = TrimBlanks(rest.substr(sign + 1));
-    const bool ends_the_real_part =
-        SpelledNumber(re) || re.ends_with('e') || re.ends_with('E'); // then an exponent's sign
-    return ends_the_real_part && (im.empty() || SpelledNumber(im));
-}
-
 template <class T> bool IsWhole(const T& value)
 {
     const std::optional<double> number = AnyNumber(value);
@@ -80,7 +58,7 @@ template <class T> bool IsComplex(const T& value)
     else if constexpr (std::same_as<T, Ref<clsComplex>>)
         return value && value->TypeOfMatrix.empty();
     else if constexpr (std::same_as<T, std::string>)
-        return SpellsComplex(value);
+        return SpelledComplex(value).has_value();
     else
         return AnyNumber(value).has_value();
 }
@@ -156,22 +134,10 @@ bool IsComplexArray(const Variant& value)
 
 bool IsComplexText(const Variant& value)
 {
-    return value.Visit([]<class T>(const T& held) {
-        if constexpr (Object<T>) {
-            if (held->TypeOfMatrix.empty()) return true;
-            ShowPlainMessage(kIncorrectObjectStop);
-            return false;
-        } else {
-            return IsComplex(held);
-        }
-    });
-}
-
-bool SpellsComplex(std::string_view text)
-{
-    const std::string_view trimmed = TrimBlanks(text);
-    if (!trimmed.ends_with('i')) return SpelledNumber(trimmed).has_value();
-    return IsBeforeI(trimmed.substr(0, trimmed.size() - 1));
+    const std::string* tag = TagOf(value);
+    if (!tag) return IsComplex(value);
+    if (!tag->empty()) ShowPlainMessage(kIncorrectObjectStop);
+    return tag->empty();
 }
 
 bool IsAllZero(const Variant& value)

@@ -4,7 +4,6 @@
 #include "base/Variant.h"
 
 #include <cstdint>
-#include <string_view>
 
 namespace lumora {
 
@@ -30,8 +29,6 @@ bool IsComplexArray(const Variant& value);
 /// A number, or a complex one as text: "i", "-i", "2.5 i", "1-3e-2i". Also a clsComplex; another
 /// object shows "Incorrect type of object." and gives false.
 bool IsComplexText(const Variant& value);
-/// The same of a text, in silence.
-bool SpellsComplex(std::string_view text);
 
 /// Is the number, or every element of the array, zero? A clsComplex is zero in both parts.
 bool IsAllZero(const Variant& value);

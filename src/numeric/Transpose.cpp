@@ -23,13 +23,13 @@ Ref<clsComplex> Mirror(const Ref<clsComplex>& z)
     return MakeRef<clsComplex>(z->Real, -z->Image);
 }
 
-/// The second of two stores with the other sign: `turned` makes it, and the first, from a part.
-template <class Turned> Ref<clsComplexMatrix> Conjugate(const clsComplexMatrix& m, Turned turned)
+/// `shape` makes both parts of the result, the second with the other sign.
+template <class Shape> Ref<clsComplexMatrix> Conjugate(const clsComplexMatrix& m, Shape shape)
 {
     const ComplexSheet parts = SheetOf(m);
     return NewMatrix<clsComplexMatrix>(
-        turned(Sheet<double>{parts.rows, parts.columns, parts.re}, std::identity()),
-        turned(Sheet<double>{parts.rows, parts.columns, parts.im}, std::negate<double>()));
+        shape(Sheet<double>{parts.rows, parts.columns, parts.re}, std::identity()),
+        shape(Sheet<double>{parts.rows, parts.columns, parts.im}, std::negate<double>()));
 }
 
 constexpr auto kTransposedBy = [](const auto& from, auto sign) { return Transposed(from, sign); };

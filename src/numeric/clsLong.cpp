@@ -2,26 +2,13 @@
 
 #include "base/Numbers.h"
 #include "numeric/ElementKinds.h"
+#include "numeric/Operands.h"
 #include "numeric/Predicates.h"
 #include "numeric/Stores.h"
 #include "numeric/clsComplexMatrix.h"
 #include "numeric/clsMatrix.h"
 
 namespace lumora {
-
-namespace {
-
-/// The elements of an array of numbers, each to nearest. An array of another kind has passed as one
-/// of numbers only because it has no elements: error 9.
-template <class T> Array<std::int32_t> Rounded(const T& array)
-{
-    if constexpr (requires { NumberOf(array.Span()[0]); })
-        return Converted<std::int32_t>(array, [](const auto& x) { return CLng(NumberOf(x)); });
-    else
-        Raise(ErrorNumber::Subscript);
-}
-
-} // namespace
 
 bool clsLong::IsLong(const Variant& value) const
 {
@@ -34,7 +21,7 @@ clsLong& clsLong::SetArray(const Variant& Arr, const std::string& s)
         ShowPlainMessage(kIncorectMatrix);
         return *this;
     }
-    return SetRealAll(Arr.Visit([](const auto& held) { return Rounded(held); }), s);
+    return SetRealAll(LongArray(Arr), s);
 }
 
 clsLong& clsLong::SetRealAll_D(const Array<double>& Arr, const std::string& s)

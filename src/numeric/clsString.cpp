@@ -1,7 +1,7 @@
 #include "numeric/clsString.h"
 
 #include "base/Numbers.h"
-#include "numeric/Predicates.h"
+#include "numeric/ComplexText.h"
 #include "numeric/Stores.h"
 #include "numeric/clsComplexMatrix.h"
 
@@ -18,7 +18,8 @@ clsString& clsString::ComplexMatrixToString(const clsComplexMatrix& Source)
 bool clsString::FoundComplexElements() const
 {
     const auto texts = elements_.Span();
-    return std::all_of(texts.begin(), texts.end(), SpellsComplex);
+    return std::all_of(texts.begin(), texts.end(),
+                       [](const std::string& text) { return SpelledComplex(text).has_value(); });
 }
 
 bool clsString::FoundNumericElements() const

@@ -119,16 +119,18 @@ TEST(ArrayQuestions, AreTrueOfAnArrayWithoutElements)
 TEST(IsComplexText, TakesTheFormsOfAComplexNumber)
 {
     for (const char* text :
-         {"i",       "-i",     "+i",      "2i",       "-2.5i",  "3 i",    "  3 i  ", "1+2i",
-          "1-2i",    "1+i",    "1-i",     "-1.5-.5i", "1e-3i",  "1e3-2i", "1-2e+5i", "1-2e-5i",
-          "1-2E+5i", "1 + 2i", "1 - 2 i", "12",       " -1e5 ", "0.5",    "+ i"})
+         {"i",       "-i",      "+i",      "2i",     "-2.5i",      "3 i",   "  3 i  ",
+          "1+2i",    "1-2i",    "1+i",     "1-i",    "-1.5-.5i",   "1e-3i", "1e3-2i",
+          "1-2e+5i", "1-2e-5i", "1-2E+5i", "1-2e5i", "1e-3-2e-5i", "- 2i",  "1 + 2i",
+          "1 - 2 i", "12",      " -1e5 ",  "0.5",    "+ i"})
         EXPECT_TRUE(IsComplexText(text)) << '"' << text << '"';
 }
 
 TEST(IsComplexText, RefusesOtherTexts)
 {
-    for (const char* text : {"", " ", "abc", "1+2", "1+2j", "i2", "2ii", "ai", "1*2i", "x+2i",
-                             "1+xi", "1+2.3.4i", "1+2 3i", "++i", "1.5.i", "I"})
+    for (const char* text :
+         {"",     " ",        "abc",    "1+2", "1+2j", "i2",   "2ii",     "ai",    "1*2i",  "x+2i",
+          "1+xi", "1+2.3.4i", "1+2 3i", "++i", "e+5i", "1e+i", "abce+5i", "1+-2i", "1.5.i", "I"})
         EXPECT_FALSE(IsComplexText(text)) << '"' << text << '"';
 }
 

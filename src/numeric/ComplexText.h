@@ -1,0 +1,14 @@
+#pragma once
+
+#include "numeric/Sheets.h"
+
+#include <optional>
+#include <string_view>
+
+namespace lumora {
+
+/// The complex number that a text spells: a real number; "i" with a number, a sign or nothing
+/// before it; or both, joined by a sign: "1-3e-2i", "1 + i". Nothing if the text spells none.
+std::optional<ComplexValue> SpelledComplex(std::string_view text);
+
+} // namespace lumora
