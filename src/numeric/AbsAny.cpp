@@ -12,6 +12,7 @@
 #include "numeric/clsMatrixComplex.h"
 
 #include <cmath>
+#include <string>
 
 namespace lumora {
 

@@ -8,6 +8,8 @@
 #include "numeric/Predicates.h"
 #include "numeric/RealFunctions.h"
 
+#include <cmath>
+#include <string>
 #include <type_traits>
 #include <utility>
 

@@ -9,6 +9,7 @@
 #include "numeric/Predicates.h"
 
 #include <cmath>
+#include <string>
 #include <type_traits>
 #include <utility>
 

@@ -7,6 +7,7 @@
 #include "numeric/Sentinel.h"
 
 #include <cmath>
+#include <string>
 
 namespace lumora {
 

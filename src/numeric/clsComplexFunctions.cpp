@@ -3,6 +3,7 @@
 #include "numeric/LogBase.h"
 #include "numeric/Mapping.h"
 #include "numeric/Power.h"
+#include "numeric/RealFunctions.h"
 #include "numeric/clsComplex.h"
 
 namespace lumora {
