@@ -25,8 +25,8 @@ public:
     void SetImage(double im);
     void SetComplex(double re, double im);
 
-    /// The formulas on z = a + bi; docs/matrix-language.md lists them with their branches. A guard
-    /// shows its message once and goes on: "Divide by zero." ("Divide by Zero." in CscM),
+    /// The formulas on z = a + bi; docs/elementary-functions.md lists them with their branches. A
+    /// guard shows its message once and goes on: "Divide by zero." ("Divide by Zero." in CscM),
     /// "Singularity in Atan", "Singularity in Atanh" and "Singularity in Acot." with 10^306, "Log
     /// of zero." with -10^306, "Overflow." and "Overflow" with 0. Error 6 where a formula
     /// overflows. Power takes a number or a clsComplex and gives a clsComplex, or an array or a
