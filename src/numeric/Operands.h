@@ -5,6 +5,9 @@
 #include "base/Variant.h"
 #include "numeric/ElementKinds.h"
 #include "numeric/Stores.h"
+#include "numeric/clsComplexMatrix.h"
+#include "numeric/clsLong.h"
+#include "numeric/clsMatrix.h"
 
 #include <cstdint>
 #include <string>
