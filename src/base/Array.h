@@ -89,14 +89,16 @@ public:
     /// new ones are zero-filled. Errors 9 (no dimension, or an empty shape) and 7.
     void ReDimPreserve(std::int64_t upper)
     {
-        const std::size_t kept = store_.size();
         const Bounds last{At(dimensions_).lower, upper};
+        Array next;
         if (dimensions_ == 1)
-            Reshape(1, last, {1, 1});
+            next.ReDimForOverwrite(last);
         else
-            Reshape(2, bounds_[0], last);
-        if (store_.size() > kept)
-            std::fill(store_.begin() + static_cast<std::ptrdiff_t>(kept), store_.end(), T{});
+            next.ReDimForOverwrite(bounds_[0], last);
+        const std::size_t kept = std::min(store_.size(), next.store_.size());
+        const auto rest = std::copy_n(store_.begin(), kept, next.store_.begin());
+        std::fill(rest, next.store_.end(), T{});
+        Swap(next);
     }
 
     /// Other bounds over the same elements in the same order. Error 9 if the counts differ.
@@ -124,6 +126,8 @@ public:
     bool operator==(const Array&) const = default;
 
 private:
+    using Store = std::vector<T, UnwrittenMemory<T>>;
+
     void Swap(Array& other) noexcept
     {
         std::swap(dimensions_, other.dimensions_);
@@ -138,7 +142,11 @@ private:
         if (__builtin_mul_overflow(first.Count(), second.Count(), &size))
             Raise(ErrorNumber::OutOfMemory);
         try {
-            store_.resize(static_cast<std::size_t>(size));
+            const auto count = static_cast<std::size_t>(size);
+            if (count > store_.capacity())
+                Store(count).swap(store_);
+            else
+                store_.resize(count);
         } catch (const std::bad_alloc&) {
             Raise(ErrorNumber::OutOfMemory);
         } catch (const std::length_error&) {
@@ -180,7 +188,7 @@ private:
 
     int dimensions_ = 0;
     Bounds bounds_[2];
-    std::vector<T, UnwrittenMemory<T>> store_;
+    Store store_;
 };
 
 } // namespace lumora
