@@ -290,23 +290,21 @@ private:
                 return Held(m.NewSizeOfMatrix(Index(), Index()));
             case 3:
                 return Held(m.Transpose());
-            case 4:
-                if constexpr (requires { m.Rearrange(1, 1, line); })
-                    return m.Rearrange(Index(), Index(), line);
-                break;
-            case 5:
-                if constexpr (requires { m.RedimPreserve(1); }) m.RedimPreserve(Index());
-                break;
-            case 6:
-                if constexpr (requires { m.CatRefresh(m); }) m.CatRefresh(m);
-                break;
             default:
-                if constexpr (requires { m.OutMatrixByVector(Variant(), 1, 1, line); }) {
-                    const Variant& list = registers_[static_cast<std::size_t>(Byte()) % 8];
-                    return Held(m.OutMatrixByVector(list, Index(), Index(), line));
-                }
+                break;
             }
         }
+        if constexpr (requires { m.Rearrange(1, 1, line); })
+            if (which % 8 == 4) return m.Rearrange(Index(), Index(), line);
+        if constexpr (requires { m.RedimPreserve(1); })
+            if (which % 8 == 5) m.RedimPreserve(Index());
+        if constexpr (requires { m.CatRefresh(m); })
+            if (which % 8 == 6) m.CatRefresh(m);
+        if constexpr (requires { m.OutMatrixByVector(Variant(), 1, 1, line); })
+            if (which % 8 == 7) {
+                const Variant& list = registers_[static_cast<std::size_t>(Byte()) % 8];
+                return Held(m.OutMatrixByVector(list, Index(), Index(), line));
+            }
         if constexpr (requires { m.MatrixToString(); }) return Held(m.MatrixToString());
         return {};
     }

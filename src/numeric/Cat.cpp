@@ -3,6 +3,7 @@
 #include "numeric/CopyAny.h"
 #include "numeric/Draft.h"
 #include "numeric/ObjectNumbers.h"
+#include "numeric/ObjectVisit.h"
 #include "numeric/Operands.h"
 #include "numeric/Predicates.h"
 #include "numeric/Sentinel.h"
@@ -95,16 +96,8 @@ template <class A, class B> Variant Joint(Lines lines, const A& a, const B& b)
 /// Both are objects by now, and their sizes fit.
 Variant Joint(Lines lines, const Variant& a, const Variant& b)
 {
-    return a.Visit([&]<class A>(const A& left) {
-        return b.Visit([&]<class B>(const B& right) -> Variant {
-            if constexpr (requires {
-                              left->TypeOfMatrix;
-                              right->TypeOfMatrix;
-                          })
-                return Joint(lines, *left, *right);
-            else
-                Raise(ErrorNumber::TypeMismatch);
-        });
+    return WithObject(a, [&](const auto& left) {
+        return WithObject(b, [&](const auto& right) { return Joint(lines, left, right); });
     });
 }
 

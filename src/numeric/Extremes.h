@@ -80,7 +80,7 @@ template <class S, class Wins> auto FirstExtreme(const S& sheet, Wins wins)
     // The store is read from front to back, by the fewer lines; of equal ones the place decides.
     const Lines lines = sheet.rows < sheet.columns ? Lines::Rows : Lines::Columns;
     const StandingOf<S> first{ValueOf(sheet[0]), 0};
-    const auto start = [&first](std::size_t) { return first; };
+    const auto start = [&first](std::size_t) -> const StandingOf<S>& { return first; };
     using Extreme = Found<decltype(first.value)>;
     Extreme found{first.value, 0, 0};
     std::size_t line = 0;
