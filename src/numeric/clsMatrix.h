@@ -27,6 +27,35 @@ public:
     /// The store itself, for kernels: read in place, not copied.
     const Array<double>& Elements() const { return elements_; }
 
+    // Operations on the receiver as a vector of samples, which stays as it is. A vector is a row or
+    // a column unless one of them is named; samples count from 1.
+
+    /// As Compression_Expansion, with round(|koef|*N) samples, halves to the even number.
+    Ref<clsMatrix> Compression_ExpansionPrec(double koef) const;
+    Ref<clsMatrix> SortExstremumMax(std::int32_t& Quantity, const Variant& Level = {}) const;
+    Ref<clsMatrix> SoundMinusAverage1(const Variant& Num) const;
+    Ref<clsMatrix> ExstremumValueAndIndexMax(const Variant& Level = {}) const;
+    std::int32_t BinSearchInArray(std::int32_t& Left, std::int32_t& Right, double Num,
+                                  double Tolerance) const;
+    Ref<clsLong> FoundIndexesExstremumInVector_Max(const Variant& Level = {}) const;
+    Ref<clsMatrix> MinmaxIndex() const;
+
+    Variant fftm(std::int32_t n_fft) const;
+    Variant ifftm(std::int32_t n_fft) const;
+
+    Variant Parcor_Burg1(std::int32_t Npred, std::int32_t& Window, std::int32_t& Shift) const;
+    Ref<clsMatrix> Compression_Expansion(double koef) const;
+    Ref<clsMatrix> Compression_Expansion_Matrix(double koef) const;
+    Ref<clsMatrix> Parcor_Direct(const clsMatrix& Parcor, const clsMatrix& VectInit, double Q_T,
+                                 std::int32_t Nint) const;
+    Ref<clsMatrix> Parcor_Resid(const clsMatrix& Parcor, const clsMatrix& VectInit,
+                                std::int32_t Nint) const;
+    Ref<clsMatrix> Pred_Lat() const;
+    Variant Parcor_Burg(std::int32_t Npred, std::int32_t& Window, std::int32_t& Shift) const;
+    double ScallProd(std::int32_t IndexFirst, std::int32_t IndexSecond,
+                     const Variant& length1) const;
+    Ref<clsLong> Gt(const Variant& a) const;
+
     /// Elementary functions, element by element, angles in radians. Those that return a Variant
     /// hold a clsMatrix while all elements lie in the real domain, and otherwise a
     /// clsComplexMatrix in which elements inside the domain keep their real value and have an
@@ -240,6 +269,17 @@ public:
     Ref<clsMatrix> RdivideLArray(const Array<std::int32_t>& b) const;
     Ref<clsComplexMatrix> RdivideCArray(const Array<Ref<clsComplex>>& b) const;
     Variant Rdivide(const Variant& Obj) const;
+
+    Variant Sum(const Variant& dimention = {}, const std::string& s = {}) const;
+    Variant Reverse(const Variant& dimention = {}, const std::string& s = {}) const;
+    Variant Cumsum(const Variant& dimention = {}, const std::string& s = {}) const;
+
+    Ref<clsMatrix> SolutionOfSistem(const clsMatrix& a) const;
+    Ref<clsMatrix> Inv() const;
+    Ref<clsMatrix> LeastSqures(const clsMatrix& a) const;
+
+    Ref<clsMatrix> Hanning_Normaliz(const Variant& unused, double Twind, std::int32_t Fs) const;
+    void FillObject(std::int32_t length1);
 
 private:
     Array<double> elements_;
