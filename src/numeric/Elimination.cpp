@@ -54,12 +54,24 @@ bool Elimination::BringPivot(std::size_t k)
     return !(std::abs(At(k, k)) <= zero && Finite(zero));
 }
 
+double Elimination::PivotRowScale(std::size_t k) const
+{
+    double scale = 0.0;
+    for (std::size_t j = k; j < n_; ++j)
+        if (column_scales_[j] != 0.0)
+            scale = std::max(scale, std::abs(At(k, j)) / column_scales_[j]);
+    return scale;
+}
+
 /// Rows from..to-1 lose column k, column by column as they lie in memory.
 void Elimination::Subtract(std::size_t k, std::size_t from, std::size_t to)
 {
     const double pivot = At(k, k);
-    for (std::size_t i = from; i < to; ++i)
+    const double scale = PivotRowScale(k);
+    for (std::size_t i = from; i < to; ++i) {
         multipliers_[i] = At(i, k) / pivot;
+        row_scales_[i] = std::max(row_scales_[i], std::abs(multipliers_[i]) * scale);
+    }
     for (std::size_t j = k + 1; j < columns_; ++j) {
         const double in_row_k = At(k, j);
         double* const column = &At(0, j);

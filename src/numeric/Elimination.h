@@ -10,10 +10,11 @@ namespace lumora {
 /// A square matrix beside right-hand columns, while its rows are eliminated with partial pivoting:
 /// of the rows not yet done the one with the largest magnitude in the column in hand comes next.
 ///
-/// A pivot counts as zero when its magnitude is at most n * 2^-52 times the largest magnitude of
-/// its row in the matrix as given, times that of its column when all rows are scaled to 1. Smaller
-/// ones are what rounding leaves of a zero; measured so, the units of rows and of columns make no
-/// matrix singular (a bound relative to the largest element of all would).
+/// A pivot counts as zero when its magnitude is at most n * 2^-52 times the largest term that ever
+/// entered its row, each beside its column's measure: so much rounding leaves of a zero. The
+/// measure of a column is its largest magnitude when the rows of the matrix as given are scaled
+/// to 1. So the units of rows and columns make no matrix singular, as a bound relative to the
+/// largest element of all would.
 class Elimination {
 public:
     /// Which rows lose the column in hand: those below the pivot (Gauss), or all others (Jordan).
@@ -31,13 +32,14 @@ public:
 
 private:
     bool BringPivot(std::size_t k);
+    double PivotRowScale(std::size_t k) const;
     void Subtract(std::size_t k, std::size_t from, std::size_t to);
 
     std::size_t n_;
     std::size_t columns_;
     std::vector<double> work_;
-    std::vector<double> row_scales_;
-    std::vector<double> column_scales_;
+    std::vector<double> row_scales_;    // largest term so far, in the columns' measures
+    std::vector<double> column_scales_; // the measures
     std::vector<double> multipliers_;
 };
 

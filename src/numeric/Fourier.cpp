@@ -9,14 +9,13 @@
 #include <cmath>
 #include <cstddef>
 #include <cstring>
+#include <memory>
 #include <utility>
 #include <vector>
 
 namespace lumora {
 
 namespace {
-
-using One = double __attribute__((vector_size(8)));
 
 /// Both parts of a row of complex numbers.
 struct Parts {
@@ -68,10 +67,9 @@ template <class V>
     }
 }
 
-// One source, one copy a width. The first stages are shorter than a wide vector.
+// One source, one copy a width. Early stages are shorter than a wide vector.
 void StageBaseline(Parts x, std::size_t size, std::size_t half, Parts factors)
 {
-    if (half < 2) return Stage<One>(x, size, half, factors);
     Stage<Two>(x, size, half, factors);
 }
 #if defined(__x86_64__)
@@ -98,34 +96,69 @@ void RunStage(Parts x, std::size_t size, std::size_t half, Parts factors, Vector
     StageBaseline(x, size, half, factors);
 }
 
-/// The factors of one stage, in the order in which each comes from the one before it. The first,
-/// which is one, is never multiplied with.
-void Factors(Parts factors, std::size_t half)
-{
-    const double angle = -8.0 * std::atan(1.0) / static_cast<double>(2 * half);
-    const double c = std::cos(angle);
-    const double d = std::sin(angle);
-    factors.re[0] = 1.0;
-    factors.im[0] = 0.0;
-    double wr = c;
-    double wi = d;
-    for (std::size_t j = 1; j < half; ++j) {
-        factors.re[j] = wr;
-        factors.im[j] = wi;
-        const double next = wr * c - wi * d;
-        wi = wr * d + c * wi;
-        wr = next;
+/// The factors of one stage, each from the one before it.
+class Chain {
+public:
+    Chain(Parts factors, std::size_t half) : at_(factors.From(half))
+    {
+        const double angle = -8.0 * std::atan(1.0) / static_cast<double>(2 * half);
+        wr_ = c_ = std::cos(angle);
+        wi_ = d_ = std::sin(angle);
+        *at_.re = 1.0;
+        *at_.im = 0.0;
     }
+    [[gnu::always_inline]] void Step()
+    {
+        at_ = at_.From(1);
+        *at_.re = wr_;
+        *at_.im = wi_;
+        const double next = wr_ * c_ - wi_ * d_;
+        wi_ = wr_ * d_ + c_ * wi_;
+        wr_ = next;
+    }
+
+private:
+    Parts at_;
+    double c_;
+    double d_;
+    double wr_;
+    double wi_;
+};
+
+/// The factors of the stages that follow the first, those of a stage from place `half` on. Each
+/// waits for the one before it, so two stages go on side by side.
+void Factors(Parts factors, std::size_t size)
+{
+    std::size_t half = size / 2;
+    for (; half > 2; half /= 4) {
+        Chain longer(factors, half);
+        Chain shorter(factors, half / 2);
+        for (std::size_t j = 1; j < half / 2; ++j) {
+            longer.Step();
+            shorter.Step();
+        }
+        for (std::size_t j = half / 2; j < half; ++j)
+            longer.Step();
+    }
+    if (half == 2) Chain(factors, half).Step();
 }
 
-/// x, cut or padded with zeros, in bit-reversed places.
-void Reversed(std::span<const double> x, double* to, std::size_t size)
+/// The bit-reversed copy of x, cut or padded with zeros, and the first stage on it: that has no
+/// factors, and elements half a row apart come to be neighbours.
+void FirstStage(std::span<const double> x, double* to, std::size_t size)
 {
-    if (x.size() < size) std::fill_n(to, size, 0.0);
-    const std::size_t count = std::min(x.size(), size);
+    if (x.empty()) return static_cast<void>(std::fill_n(to, size, 0.0));
+    if (x.size() < size) {
+        std::vector<double> padded(x.begin(), x.end());
+        padded.resize(size);
+        return FirstStage(padded, to, size);
+    }
+    if (size == 1) *to = x[0];
+    const std::size_t half = size / 2;
     std::size_t place = 0;
-    for (std::size_t k = 0; k < count; ++k) {
-        to[place] = x[k];
+    for (std::size_t k = 0; k < half; ++k) {
+        to[place] = x[k] + x[k + half];
+        to[place + 1] = x[k] - x[k + half];
         // Counting up in reversed bits: the ones that a carry clears lead the number.
         place ^= size - (size >> (std::countr_zero(k + 1) + 1));
     }
@@ -151,16 +184,17 @@ Ref<clsMatrix> PaddedZeros(std::span<const double> zeros, std::int32_t n_fft)
 
 } // namespace
 
-void Butterflies(std::span<double> re, std::span<double> im, VectorWidth width)
+void Fourier(std::span<const double> x_re, std::span<const double> x_im, std::span<double> re,
+             std::span<double> im, VectorWidth width)
 {
     const std::size_t size = re.size();
-    std::vector<double> factor_re(size / 2);
-    std::vector<double> factor_im(size / 2);
-    const Parts factors{factor_re.data(), factor_im.data()};
-    for (std::size_t half = 1; half < size; half *= 2) {
-        Factors(factors, half);
-        RunStage({re.data(), im.data()}, size, half, factors, width);
-    }
+    FirstStage(x_re, re.data(), size);
+    FirstStage(x_im, im.data(), size);
+    const auto memory = std::make_unique_for_overwrite<double[]>(2 * size);
+    const Parts factors{memory.get(), memory.get() + size};
+    Factors(factors, size);
+    for (std::size_t half = 2; half < size; half *= 2)
+        RunStage({re.data(), im.data()}, size, half, factors.From(half), width);
 }
 
 Variant Transformed(const ComplexSheet& x, std::int32_t n_fft, Scale scale)
@@ -174,9 +208,7 @@ Variant Transformed(const ComplexSheet& x, std::int32_t n_fft, Scale scale)
     Result<clsComplexMatrix> result({1, n_fft});
     const std::span<double> re(result.RealData(), size);
     const std::span<double> im(result.ImageData(), size);
-    Reversed(x.re, re.data(), size);
-    Reversed(x.im, im.data(), size);
-    Butterflies(re, im, WidestVectors());
+    Fourier(x.re, x.im, re, im, WidestVectors());
     if (scale == Scale::ByLength)
         for (const auto part : {re, im})
             for (double& value : part)
