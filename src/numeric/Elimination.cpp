@@ -48,7 +48,7 @@ bool Elimination::BringPivot(std::size_t k)
         for (std::size_t j = k; j < columns_; ++j)
             std::swap(At(row, j), At(k, j));
     }
-    const double rounding = static_cast<double>(n_) * std::numeric_limits<double>::epsilon();
+    const double rounding = 16.0 * static_cast<double>(n_) * std::numeric_limits<double>::epsilon();
     const double zero = rounding * row_scales_[k] * column_scales_[k];
     // An infinity in the data is no measure.
     return !(std::abs(At(k, k)) <= zero && Finite(zero));

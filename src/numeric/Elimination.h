@@ -10,11 +10,11 @@ namespace lumora {
 /// A square matrix beside right-hand columns, while its rows are eliminated with partial pivoting:
 /// of the rows not yet done the one with the largest magnitude in the column in hand comes next.
 ///
-/// A pivot counts as zero when its magnitude is at most n * 2^-52 times the largest term that ever
-/// entered its row, each beside its column's measure: so much rounding leaves of a zero. The
-/// measure of a column is its largest magnitude when the rows of the matrix as given are scaled
-/// to 1. So the units of rows and columns make no matrix singular, as a bound relative to the
-/// largest element of all would.
+/// A pivot counts as zero when its magnitude is at most 16 n * 2^-52 times the largest term that
+/// ever entered its row, each beside its column's measure: so much rounding leaves of a zero, with
+/// four bits to spare for what the rows before it pass on. The measure of a column is its largest
+/// magnitude when the rows of the matrix as given are scaled to 1. So the units of rows and columns
+/// make no matrix singular, as a bound relative to the largest element of all would.
 class Elimination {
 public:
     /// Which rows lose the column in hand: those below the pivot (Gauss), or all others (Jordan).

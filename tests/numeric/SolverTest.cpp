@@ -159,24 +159,23 @@ TEST(SolutionOfSistem, OfASingularMatrixShowsItAndIsEmpty)
     EXPECT_EQ(recorder.Take(), Shown{kSingularShown});
 }
 
-TEST(SolutionOfSistem, SeesARowThatIsTheSumOfTheOthers)
+TEST(SolutionOfSistem, SeesAColumnThatIsTheSumOfTheOthers)
 {
     // Whole numbers, so that the sum is exact; the others are far from depending on each other.
     std::mt19937 generator(42);
-    std::uniform_int_distribution<std::int32_t> small(-1, 1);
+    std::uniform_int_distribution<std::int32_t> digit(-9, 9);
     for (std::int32_t n = 2; n <= 40; ++n)
         for (const std::int32_t sum : {1, n / 2 + 1, n}) {
             const Ref<clsMatrix> m = MakeRef<clsMatrix>();
             m->Initial_matrix(n, n);
             for (std::int32_t j = 1; j <= n; ++j)
-                for (std::int32_t i = 1; i <= n; ++i) {
-                    if (i == sum) continue;
-                    m->Real(i, j, small(generator) + (i == j ? 2 * n + 1 : 0));
-                    m->Real(sum, j, m->Real(sum, j) + m->Real(i, j));
+                for (std::int32_t i = 1; i <= n && j != sum; ++i) {
+                    m->Real(i, j, digit(generator) + (i == j ? 10 * n : 0));
+                    m->Real(i, sum, m->Real(i, sum) + m->Real(i, j));
                 }
             MessageRecorder recorder;
             EXPECT_FALSE(m->SolutionOfSistem(*RandomSystems(1).Matrix(n, 1))) << n << ", " << sum;
-            EXPECT_FALSE(m->Inv());
+            EXPECT_FALSE(m->Inv()) << n << ", " << sum;
             EXPECT_EQ(recorder.Take(), (Shown{kSingularShown, kSingularShown}));
         }
 }
