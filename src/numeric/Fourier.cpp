@@ -1,5 +1,6 @@
 #include "numeric/Fourier.h"
 
+#include "base/Numbers.h"
 #include "base/Vectors.h"
 #include "numeric/Results.h"
 #include "numeric/clsMatrixComplex.h"
@@ -9,9 +10,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstring>
-#include <memory>
 #include <utility>
-#include <vector>
 
 namespace lumora {
 
@@ -149,9 +148,9 @@ void FirstStage(std::span<const double> x, double* to, std::size_t size)
 {
     if (x.empty()) return static_cast<void>(std::fill_n(to, size, 0.0));
     if (x.size() < size) {
-        std::vector<double> padded(x.begin(), x.end());
-        padded.resize(size);
-        return FirstStage(padded, to, size);
+        auto padded = ZeroStore<double>({1, CLng(size)});
+        std::copy(x.begin(), x.end(), padded.Span().begin());
+        return FirstStage(padded.Span(), to, size);
     }
     if (size == 1) *to = x[0];
     const std::size_t half = size / 2;
@@ -190,8 +189,8 @@ void Fourier(std::span<const double> x_re, std::span<const double> x_im, std::sp
     const std::size_t size = re.size();
     FirstStage(x_re, re.data(), size);
     FirstStage(x_im, im.data(), size);
-    const auto memory = std::make_unique_for_overwrite<double[]>(2 * size);
-    const Parts factors{memory.get(), memory.get() + size};
+    auto memory = UnwrittenStore<double>({CLng(size), 2});
+    const Parts factors{memory.Span().data(), memory.Span().data() + size};
     Factors(factors, size);
     for (std::size_t half = 2; half < size; half *= 2)
         RunStage({re.data(), im.data()}, size, half, factors.From(half), width);
