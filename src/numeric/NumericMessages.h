@@ -38,6 +38,11 @@ inline constexpr const char* kIncorrectArray        = "Incorrect type of Array."
 inline constexpr const char* kIncorrectType         = "Incorrect type.";
 inline constexpr const char* kMustBeArray           = "Error using  GetSizeOfArray . Type of Parrametr must be array.";
 inline constexpr const char* kIncorectMatrix        = "Incorect type of matrix";
+inline constexpr const char* kSolutionSquare        = "Error using ==> SolutionOfSistem Matrix must be square.";
+inline constexpr const char* kInvSquare             = "Error using ==> inv Matrix must be square.";
+inline constexpr const char* kSingular              = "Matrix is singular to working precision.";
+inline constexpr const char* kMustBeVector          = "The  parameter must be Vector or Complex Vector";
+inline constexpr const char* kPowerOfPolynom        = "The  Power of Polynom equal Zero";
 
 // Title and body of the titled messages.
 inline constexpr const char* kErrorUsingMin         = "Error using Min.";

@@ -25,6 +25,11 @@ public:
     const Array<double>& RealPart() const { return real_part_; }
     const Array<double>& ImagePart() const { return image_part_; }
 
+    /// As those of clsMatrix; all elements are zero when both parts are.
+    /// Deliberate: ifftm is that of the real part, and the imaginary part counts for nothing.
+    Variant ifftm(std::int32_t n_fft) const;
+    Variant fftm(std::int32_t n_fft) const;
+
     /// The formulas of clsComplex on every element; a message comes once an operation. Power gives
     /// a clsComplexMatrix, in a Variant because it is empty after a message.
     Ref<clsComplexMatrix> SinM() const;

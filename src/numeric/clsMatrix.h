@@ -27,6 +27,42 @@ public:
     /// The store itself, for kernels: read in place, not copied.
     const Array<double>& Elements() const { return elements_; }
 
+    // Operations on the receiver as a vector of samples, which stays as it is. A vector is a row or
+    // a column unless one of them is named; samples count from 1.
+
+    /// As Compression_Expansion, with round(|koef|*N) samples, halves to the even number.
+    Ref<clsMatrix> Compression_ExpansionPrec(double koef) const;
+    Ref<clsMatrix> SortExstremumMax(std::int32_t& Quantity, const Variant& Level = {}) const;
+    Ref<clsMatrix> SoundMinusAverage1(const Variant& Num) const;
+    Ref<clsMatrix> ExstremumValueAndIndexMax(const Variant& Level = {}) const;
+    std::int32_t BinSearchInArray(std::int32_t& Left, std::int32_t& Right, double Num,
+                                  double Tolerance) const;
+    Ref<clsLong> FoundIndexesExstremumInVector_Max(const Variant& Level = {}) const;
+    Ref<clsMatrix> MinmaxIndex() const;
+
+    /// Discrete Fourier transform of a vector, cut or padded with zeros to n_fft elements: a
+    /// clsComplexMatrix row, element k + 1 being the sum of x(n + 1)*exp(-2 pi i k n / n_fft). A
+    /// vector of nothing but zeros gives a clsMatrix row of n_fft zeros.
+    /// Deliberate: ifftm has the same sign in the exponent and divides by n_fft, which of a real
+    /// vector is the conjugate of the inverse transform.
+    /// n_fft is a power of two. Errors: 9 for another (unless all is zero) and for one below 1, for
+    /// a matrix of several rows and columns, and without elements; 6 on overflow.
+    Variant fftm(std::int32_t n_fft) const;
+    Variant ifftm(std::int32_t n_fft) const;
+
+    Variant Parcor_Burg1(std::int32_t Npred, std::int32_t& Window, std::int32_t& Shift) const;
+    Ref<clsMatrix> Compression_Expansion(double koef) const;
+    Ref<clsMatrix> Compression_Expansion_Matrix(double koef) const;
+    Ref<clsMatrix> Parcor_Direct(const clsMatrix& Parcor, const clsMatrix& VectInit, double Q_T,
+                                 std::int32_t Nint) const;
+    Ref<clsMatrix> Parcor_Resid(const clsMatrix& Parcor, const clsMatrix& VectInit,
+                                std::int32_t Nint) const;
+    Ref<clsMatrix> Pred_Lat() const;
+    Variant Parcor_Burg(std::int32_t Npred, std::int32_t& Window, std::int32_t& Shift) const;
+    double ScallProd(std::int32_t IndexFirst, std::int32_t IndexSecond,
+                     const Variant& length1) const;
+    Ref<clsLong> Gt(const Variant& a) const;
+
     /// Elementary functions, element by element, angles in radians. Those that return a Variant
     /// hold a clsMatrix while all elements lie in the real domain, and otherwise a
     /// clsComplexMatrix in which elements inside the domain keep their real value and have an
@@ -240,6 +276,39 @@ public:
     Ref<clsMatrix> RdivideLArray(const Array<std::int32_t>& b) const;
     Ref<clsComplexMatrix> RdivideCArray(const Array<Ref<clsComplex>>& b) const;
     Variant Rdivide(const Variant& Obj) const;
+
+    /// Sums, the reverse order, and running sums from the first element, by column (dimention 1) or
+    /// by row (2); the default and another dimention as for MinDim. Sum gives a plain number where
+    /// one sum is all there is, and otherwise one element for each column or row; the others keep
+    /// the sizes. Across a vector all three give a copy. `s` names a new matrix. Elements are added
+    /// from the first to the last. Errors: 9 without elements, 6 on overflow.
+    Variant Sum(const Variant& dimention = {}, const std::string& s = {}) const;
+    Variant Reverse(const Variant& dimention = {}, const std::string& s = {}) const;
+    Variant Cumsum(const Variant& dimention = {}, const std::string& s = {}) const;
+
+    /// The x with receiver*x = a, a column of as many rows, by elimination with partial pivoting
+    /// (J. H. Wilkinson, J. ACM 8, 1961), and the inverse matrix. "Error using ==> SolutionOfSistem
+    /// Matrix must be square." ("==> inv"), "Matrix is singular to working precision."; empty after
+    /// them. A pivot counts as zero as told at Elimination. Errors: 9 for another a and without
+    /// elements, 6 on overflow.
+    Ref<clsMatrix> SolutionOfSistem(const clsMatrix& a) const;
+    Ref<clsMatrix> Inv() const;
+    /// The column x for which the squares of receiver*x - a have the smallest sum, from the normal
+    /// equations: half the digits that a system of the same condition leaves. A receiver that is a
+    /// row stands for a column, and a is a row then too. "Error using ==> Mtimes(*) Inner matrix
+    /// dimensions must agree." for other rows than the receiver's, and the message of a singular
+    /// matrix where its columns depend on each other; empty after them.
+    Ref<clsMatrix> LeastSqures(const clsMatrix& a) const;
+
+    /// The row with every peak above 1 in magnitude pressed down to 0.9, from the highest on: round
+    /// it goes a notch of raised cosine, Twind milliseconds long at Fs samples per second, w =
+    /// round(Fs*Twind/1000) samples, halves to the even number.
+    /// Errors: 9 for what is no row; and, if there is a peak to press, 11 for w = 1, of which no
+    /// cosine can be made, 5 for a peak that its notch leaves as high (w below 1 or 2, a 3 that
+    /// misses it, an infinite peak), 6 for a w beyond 32 bits.
+    Ref<clsMatrix> Hanning_Normaliz(const Variant& unused, double Twind, std::int32_t Fs) const;
+    /// The receiver becomes the row 1, 2, ..., length1. Error 9 below 1.
+    void FillObject(std::int32_t length1);
 
 private:
     Array<double> elements_;

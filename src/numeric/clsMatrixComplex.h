@@ -26,6 +26,10 @@ public:
     /// The store itself, for kernels.
     const Array<Ref<clsComplex>>& Elements() const { return elements_; }
 
+    /// Deliberate: present, do nothing, give empty. A clsComplexMatrix has the transforms.
+    Variant fftm(std::int32_t n_fft) const;
+    Variant ifftm(std::int32_t n_fft) const;
+
     /// As those of clsComplexMatrix. Power gives a clsMatrixComplex for a clsMatrixComplex operand
     /// and a clsComplexMatrix for every other.
     Ref<clsMatrixComplex> SinM() const;

@@ -69,6 +69,9 @@ static_assert(Has<M, C(const clsMatrixComplex&, double) const>({&M::MinMatrixCom
 static_assert(Has<M, L(const Variant&) const>({&M::All, &M::AnyObj}));
 static_assert(Has<M, bool() const>({&M::AllAll, &M::AnyAny}));
 
+// Transforms.
+static_assert(Has<M, Variant(I32) const>({&M::fftm, &M::ifftm}));
+
 // Operators.
 static_assert(Has<M, C(const clsMatrix&) const>({&M::PlusR, &M::MinusR, &M::TimesR, &M::MtimesR,
                                                  &M::RdivideR}));

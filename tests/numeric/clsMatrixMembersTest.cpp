@@ -54,6 +54,15 @@ static_assert(Has<M, R(double) const>({&M::MinNum, &M::MaxRNum}));
 static_assert(Has<M, C(const clsComplex&) const>({&M::MinComplexNum, &M::MaxComplexNum}));
 static_assert(Has<M, bool() const>({&M::AllAll, &M::AnyAny}));
 
+// Transforms and solvers.
+static_assert(Has<M, Variant(I32) const>({&M::fftm, &M::ifftm}));
+static_assert(Has<M, Variant(const Variant&, const Text&) const>({&M::Sum, &M::Reverse,
+                                                                  &M::Cumsum}));
+static_assert(Has<M, R(const M&) const>({&M::SolutionOfSistem, &M::LeastSqures}));
+static_assert(Has<M, R() const>({&M::Inv}));
+static_assert(Has<M, R(const Variant&, double, I32) const>({&M::Hanning_Normaliz}));
+static_assert(Has<M, void(I32)>({&M::FillObject}));
+
 // Operators.
 static_assert(Has<M, R(const clsMatrix&) const>({&M::PlusR, &M::MinusR, &M::TimesR, &M::MtimesR,
                                                  &M::RdivideR}));
@@ -97,6 +106,9 @@ static_assert(requires(const M& m, M& w, const clsLong& l, const clsComplexMatri
     m.MaxIndex();
     m.All();
     m.AnyObj();
+    m.Sum();
+    m.Reverse();
+    m.Cumsum();
 });
 
 } // namespace
