@@ -38,6 +38,11 @@ inline constexpr const char* kIncorrectArray        = "Incorrect type of Array."
 inline constexpr const char* kIncorrectType         = "Incorrect type.";
 inline constexpr const char* kMustBeArray           = "Error using  GetSizeOfArray . Type of Parrametr must be array.";
 inline constexpr const char* kIncorectMatrix        = "Incorect type of matrix";
+inline constexpr const char* kKoefZero              = "Koef for Compression-Expansion equal zero";
+inline constexpr const char* kKoefSmall             = "Koef for Compression-Expansion it is  very Small";
+inline constexpr const char* kKoefMatrixZero        = "Koef for Compression-Expansion_Matrix equal zero";
+inline constexpr const char* kKoefMatrixSmall       = "Koef for Compression-Expansion_Matrix it is  very Small";
+inline constexpr const char* kSoundTooShort         = "Vector of sound is veri small";
 
 // Title and body of the titled messages.
 inline constexpr const char* kErrorUsingMin         = "Error using Min.";
