@@ -127,7 +127,7 @@ TEST(Parcor, RecoversTheReflectionsOfFormantResonatorsWithinAPercent)
     for (const auto& formants : {kVowelA, kVowelI, kVowelU}) {
         const std::vector<double> predictor = PredictorOfFormants(formants);
         const std::vector<double> known = ReflectionsOfPredictor(predictor);
-        const Sound vowel = Resonance(Noise(2'000'000, 4902), predictor);
+        const Sound vowel = Resonance(Noise(300'000, 4902), predictor);
         const Analysis found = Analysed(*RowOf(vowel), &clsMatrix::Parcor_Burg1,
                                         static_cast<std::int32_t>(known.size()), 0, 0);
         for (std::size_t m = 0; m < known.size(); ++m)
@@ -320,7 +320,7 @@ TEST(Parcor, OverflowIsAnErrorUnlessTheSamplesAreNoNumbers)
     EXPECT_EQ(Raised([&] { RowOf(lonely)->Parcor_Burg(2, window, shift); }), 6);
 
     Sound odd = SpeechLike(40, 1);
-    odd[30] = std::numeric_limits<double>::infinity();
+    odd[35] = std::numeric_limits<double>::infinity();
     const Analysis passed = Analysed(*RowOf(odd), &clsMatrix::Parcor_Burg, 2, 10, 10);
     EXPECT_TRUE(std::isfinite(passed.table[0]));
     EXPECT_TRUE(std::isnan(passed.table[6]));
