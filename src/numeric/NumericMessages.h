@@ -43,6 +43,11 @@ inline constexpr const char* kInvSquare             = "Error using ==> inv Matri
 inline constexpr const char* kSingular              = "Matrix is singular to working precision.";
 inline constexpr const char* kMustBeVector          = "The  parameter must be Vector or Complex Vector";
 inline constexpr const char* kPowerOfPolynom        = "The  Power of Polynom equal Zero";
+inline constexpr const char* kKoefZero              = "Koef for Compression-Expansion equal zero";
+inline constexpr const char* kKoefSmall             = "Koef for Compression-Expansion it is  very Small";
+inline constexpr const char* kKoefMatrixZero        = "Koef for Compression-Expansion_Matrix equal zero";
+inline constexpr const char* kKoefMatrixSmall       = "Koef for Compression-Expansion_Matrix it is  very Small";
+inline constexpr const char* kSoundTooShort         = "Vector of sound is veri small";
 
 // Title and body of the titled messages.
 inline constexpr const char* kErrorUsingMin         = "Error using Min.";

@@ -28,16 +28,34 @@ public:
     const Array<double>& Elements() const { return elements_; }
 
     // Operations on the receiver as a vector of samples, which stays as it is. A vector is a row or
-    // a column unless one of them is named; samples count from 1.
+    // a column unless one of them is named; another matrix in its place is error 9. Samples and
+    // frames count from 1. Error 6 where finite samples overflow.
 
-    /// As Compression_Expansion, with round(|koef|*N) samples, halves to the even number.
+    /// As Compression_Expansion, with round(|koef|*N) samples, halves to the even number; fewer
+    /// than one is the case of "it is  very Small". What lies behind the last sample repeats it.
     Ref<clsMatrix> Compression_ExpansionPrec(double koef) const;
+    /// As ExstremumValueAndIndexMax, the largest values first and of equal ones the earlier sample,
+    /// at most Quantity rows. Quantity below 1 becomes 1 in the caller's variable.
     Ref<clsMatrix> SortExstremumMax(std::int32_t& Quantity, const Variant& Level = {}) const;
+    /// A row minus the mean of its first Num samples. Num is rounded; errors 11 for 0 and 9 beyond
+    /// the vector; of a negative number of samples the mean is 0.
+    /// Deliberate: of a column only the first sample is computed, the others are 0.
     Ref<clsMatrix> SoundMinusAverage1(const Variant& Num) const;
+    /// K by 2: value and index of the local maxima, in the order of the samples; 1 by 2 zeros if
+    /// there is none.
     Ref<clsMatrix> ExstremumValueAndIndexMax(const Variant& Level = {}) const;
+    /// Index of the first element not below Num among Left..Right of a vector that rises there, by
+    /// bisection: Left where Num lies before it or within Tolerance of it, Right where it is not
+    /// below it, 0 if Left is above Right. The caller's bounds are narrowed on the way, and from
+    /// the first time on equal means within 1e-8. Errors: 9 for a bound outside the vector that is
+    /// looked at, 5 where elements that are no finite numbers leave it undecided.
     std::int32_t BinSearchInArray(std::int32_t& Left, std::int32_t& Right, double Num,
                                   double Tolerance) const;
+    /// A row of the indices of local maxima, not below Level if that is given; a 1 by 1 zero if
+    /// there is none. A plateau counts by its left end, and not at all at the end of the vector;
+    /// the first and the last sample never do. A matrix, and a vector of less than 3, has none.
     Ref<clsLong> FoundIndexesExstremumInVector_Max(const Variant& Level = {}) const;
+    /// As Minmax.
     Ref<clsMatrix> MinmaxIndex() const;
 
     /// Discrete Fourier transform of a vector, cut or padded with zeros to n_fft elements: a
@@ -50,17 +68,61 @@ public:
     Variant fftm(std::int32_t n_fft) const;
     Variant ifftm(std::int32_t n_fft) const;
 
+    /// As Parcor_Burg, and a column may be one frame too.
     Variant Parcor_Burg1(std::int32_t Npred, std::int32_t& Window, std::int32_t& Shift) const;
+    /// Another number of samples by linear interpolation, first and last kept where they fall: N
+    /// become Int(|koef|*(N-1) + 1), sample i standing at (i-1)/|koef| + 1. A row along itself, a
+    /// column and each column of a matrix down. A koef of 0 shows "Koef for Compression-Expansion
+    /// equal zero", a result without samples "Koef for Compression-Expansion it is  very Small";
+    /// both then give a 1 by 1 matrix of -1. Errors: 6 for more samples than 32 bits count, 7 for
+    /// more than memory holds, 9 without elements.
     Ref<clsMatrix> Compression_Expansion(double koef) const;
+    /// The same without interpolation: Int(N*koef) samples, sample i being the one at Int(i/koef)
+    /// for koef below 1, at the next whole number from i/koef on otherwise. A negative koef leaves
+    /// no samples. The messages name "Compression-Expansion_Matrix". Error 9 too where rounding
+    /// puts i/koef behind the last sample.
     Ref<clsMatrix> Compression_Expansion_Matrix(double koef) const;
+    /// All-pole synthesis, the inverse of Parcor_Resid for a Q_T of 1: a row. The receiver is the
+    /// excitation, Parcor a table of Nint/10 + 2 rows (with any other number of rows it is
+    /// transposed first), frames as in Parcor_Resid. Q_T scales the length of the vocal tract: the
+    /// areas of P + 1 tubes become those of about P*Q_T + 1 by Compression_Expansion, and the order
+    /// of the filter is P*Q_T + 1, rounded. The last samples of VectInit, as many as that, stand
+    /// before the first one. Errors: 5 for a Q_T not above 0, 11 for a reflection of -1, and those
+    /// of Parcor_Resid.
     Ref<clsMatrix> Parcor_Direct(const clsMatrix& Parcor, const clsMatrix& VectInit, double Q_T,
                                  std::int32_t Nint) const;
+    /// Residual of linear prediction, a row as long as the receiver. Parcor has P rows and a column
+    /// for each frame of Nint samples; the last frame goes on to the end. The last P samples of
+    /// VectInit stand before the first one. A single column of more than one row serves all frames;
+    /// for a frame without column OutMatrix shows its message, then error 91. A vector shorter
+    /// than Nint has no frame and a residual of 0 (in Parcor_Direct: is not filtered). Errors: 9 if
+    /// VectInit, the receiver, or Nint with more than one frame is less than P; 11 for an Nint of
+    /// 0, 5 for a negative one.
     Ref<clsMatrix> Parcor_Resid(const clsMatrix& Parcor, const clsMatrix& VectInit,
                                 std::int32_t Nint) const;
+    /// A row of predictor coefficients from reflection coefficients (step-up recursion of Levinson
+    /// and Durbin; Markel and Gray, Linear Prediction of Speech, 1976).
     Ref<clsMatrix> Pred_Lat() const;
+    /// Reflection coefficients by Burg's method (J. P. Burg, Maximum Entropy Spectral Analysis,
+    /// 1975): an Npred by frames table in the order of the samples, all 0 for a frame without
+    /// energy or of no more than Npred samples. Window counts the samples of a frame, Shift those
+    /// between the starts of two. In the caller's variables Window becomes the length of the vector
+    /// if it is 0 or longer, and Shift a third of Window if it is 0; with a Window shorter than the
+    /// vector Shift is cut to Window and loses 1 if it leaves an odd rest. Then (Window - Shift)/2
+    /// samples of silence stand before the sound, and the last frame is filled up with silence.
+    /// Otherwise the vector, which must be a row, is one frame.
+    /// Fewer than 10 samples show "Vector of sound is veri small" and give empty. Errors: 9 for an
+    /// Npred below 1, for a negative Window or Shift, with which there is no frame, and for a
+    /// column as one frame; 11 for a Shift that has become 0.
     Variant Parcor_Burg(std::int32_t Npred, std::int32_t& Window, std::int32_t& Shift) const;
+    /// Sum of x(IndexFirst + k)*x(IndexSecond + k), k = 0..length1 - 1 (rounded), of a row; 0 for
+    /// another matrix. Error 9 outside the row and, unless length1 is below 1, for a 1 by 1 matrix.
     double ScallProd(std::int32_t IndexFirst, std::int32_t IndexSecond,
                      const Variant& length1) const;
+    /// 1 where the element is greater than the operand, else 0. The operand is a number or a text
+    /// that spells one; an object of tag "", "r", "L", "c" or "cm", complex ones by their real
+    /// part. A matrix of other sizes shows "Matrix dimensions must agree." and gives empty. Any
+    /// other operand gives empty; error 13 where a tag belies its class.
     Ref<clsLong> Gt(const Variant& a) const;
 
     /// Elementary functions, element by element, angles in radians. Those that return a Variant

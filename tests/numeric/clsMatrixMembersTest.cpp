@@ -9,6 +9,20 @@ namespace {
 
 using M = clsMatrix;
 
+// Speech.
+static_assert(Has<M, Variant(I32, I32&, I32&) const>({&M::Parcor_Burg, &M::Parcor_Burg1}));
+static_assert(Has<M, R() const>({&M::Pred_Lat, &M::MinmaxIndex}));
+static_assert(Has<M, R(const M&, const M&, I32) const>({&M::Parcor_Resid}));
+static_assert(Has<M, R(const M&, const M&, double, I32) const>({&M::Parcor_Direct}));
+static_assert(Has<M, double(I32, I32, const Variant&) const>({&M::ScallProd}));
+static_assert(Has<M, L(const Variant&) const>({&M::Gt, &M::FoundIndexesExstremumInVector_Max}));
+static_assert(Has<M, R(double) const>({&M::Compression_Expansion, &M::Compression_ExpansionPrec,
+                                       &M::Compression_Expansion_Matrix}));
+static_assert(Has<M, R(const Variant&) const>({&M::SoundMinusAverage1,
+                                               &M::ExstremumValueAndIndexMax}));
+static_assert(Has<M, R(I32&, const Variant&) const>({&M::SortExstremumMax}));
+static_assert(Has<M, I32(I32&, I32&, double, double) const>({&M::BinSearchInArray}));
+
 // Elementary functions.
 static_assert(Has<M, R() const>({&M::SinM, &M::SinhM, &M::AsinhM, &M::CosM, &M::CoshM, &M::TanM,
                                  &M::AtanM, &M::TanhM, &M::CotM, &M::AcotM, &M::CothM, &M::SecM,
