@@ -83,13 +83,16 @@ double PeakOf(std::span<const double> samples)
 {
     // Several peaks side by side wait for one comparison, not each for the one before it.
     std::array<double, 8> peaks = {};
-    for (std::size_t k = 0; k < samples.size(); k += peaks.size()) {
-        const std::size_t lanes = std::min(peaks.size(), samples.size() - k);
-        for (std::size_t lane = 0; lane < lanes; ++lane) {
-            const double magnitude = std::abs(samples[k + lane]);
-            peaks[lane] = magnitude > peaks[lane] ? magnitude : peaks[lane];
-        }
-    }
+    const auto raise = [](double& peak, double sample) {
+        const double magnitude = std::abs(sample);
+        peak = magnitude > peak ? magnitude : peak;
+    };
+    std::size_t k = 0;
+    for (; k + peaks.size() <= samples.size(); k += peaks.size())
+        for (std::size_t lane = 0; lane < peaks.size(); ++lane)
+            raise(peaks[lane], samples[k + lane]);
+    for (; k < samples.size(); ++k)
+        raise(peaks[0], samples[k]);
     return *std::max_element(peaks.begin(), peaks.end());
 }
 
