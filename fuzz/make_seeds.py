@@ -92,6 +92,25 @@ def ranges():
         yield f"{reader}-beyond", reader | 0x30, 70000, MOST
 
 
+def whole_files():
+    """What only the whole-file reader looks at."""
+    for bits in (4, 12, 25, 32):
+        yield f"width{bits}", plain(bits=bits)
+    for tag in (2, 17, 259):
+        yield f"format{tag}", plain(tag=tag)
+    for size in (63, 61, 2):
+        yield f"odd{size}", plain(bits=8, size=size)
+        yield f"part{size}", plain(channels=2, size=size)
+
+
+def forms():
+    """Name, form of the arguments, Arg1 and Arg2."""
+    yield "all", 0, 0, 0
+    yield "size", 1, 0, 0
+    yield "part", 2, 2, 5
+    yield "swapped", 2, 9, 3
+
+
 def programs():
     """Two objects of each pair of classes and sizes, and one operation on them in each group."""
     for kind in range(10):
@@ -119,6 +138,10 @@ def main(out):
     write_all(out / "FuzzWaveSamples",
               ((f"{name}-{which}", struct.pack("<Bii", choice, first, last) + content)
                for name, content in bodies for which, choice, first, last in ranges()))
+    whole = [*headers, *whole_files()]
+    write_all(out / "FuzzWavread",
+              ((f"{name}-{which}", struct.pack("<Bii", form, first, last) + content)
+               for name, content in whole for which, form, first, last in forms()))
 
 
 if __name__ == "__main__":

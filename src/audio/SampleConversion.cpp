@@ -3,6 +3,7 @@
 #include "base/RunTimeError.h"
 
 #include <cstring>
+#include <limits>
 
 namespace lumora {
 
@@ -120,6 +121,23 @@ constexpr SampleKernels kAvx512{FromShortsAvx512, FromBytesAvx512, ToShortsAvx51
 #endif
 // clang-format on
 
+/// Each sample x scale + centre, rounded. A plain loop without a branch: compilers make vectors of
+/// it.
+template <class T>
+void Quantise(std::span<const double> samples, double scale, double centre, std::span<T> out)
+{
+    constexpr double kLeast = std::numeric_limits<T>::min();
+    constexpr double kMost = std::numeric_limits<T>::max();
+    bool fits = true;
+    for (std::size_t i = 0; i < samples.size(); ++i) {
+        const double rounded = (samples[i] * scale + centre + kRounder) - kRounder;
+        const bool inside = rounded >= kLeast && rounded <= kMost;
+        fits &= inside;
+        out[i] = static_cast<T>(inside ? rounded : 0.0);
+    }
+    if (!fits) Raise(ErrorNumber::Overflow);
+}
+
 const SampleKernels& Kernels()
 {
     static const SampleKernels& widest = SampleKernelsFor(WidestVectors());
@@ -148,6 +166,12 @@ void SamplesFromBytes(std::span<const std::uint8_t> bytes, std::span<double> sam
     Kernels().from_bytes(bytes.data(), bytes.size(), samples.data());
 }
 
+void SamplesFromLongs(std::span<const std::int32_t> longs, std::span<double> samples)
+{
+    for (std::size_t i = 0; i < longs.size(); ++i)
+        samples[i] = longs[i] / 2147483648.0;
+}
+
 void ShortsFromBytes(std::span<const std::uint8_t> bytes, std::span<std::int16_t> shorts)
 {
     for (std::size_t i = 0; i < bytes.size(); ++i)
@@ -158,6 +182,16 @@ void ShortsFromSamples(std::span<const double> samples, std::span<std::int16_t> 
 {
     if (!Kernels().to_shorts(samples.data(), samples.size(), shorts.data()))
         Raise(ErrorNumber::Overflow);
+}
+
+void BytesFromSamples(std::span<const double> samples, std::span<std::uint8_t> bytes)
+{
+    Quantise(samples, 128.0, 128.0, bytes);
+}
+
+void LongsFromSamples(std::span<const double> samples, std::span<std::int32_t> longs)
+{
+    Quantise(samples, 2147483647.0, 0.0, longs);
 }
 
 void ShortsFromSamples(std::span<const double> left, std::span<const double> right,

@@ -15,6 +15,9 @@ void SamplesFromShorts(std::span<const std::int16_t> shorts, std::span<double> s
 /// Each (value - 128) / 128. Both spans have one length.
 void SamplesFromBytes(std::span<const std::uint8_t> bytes, std::span<double> samples);
 
+/// Each value / 2147483648. Both spans have one length.
+void SamplesFromLongs(std::span<const std::int32_t> longs, std::span<double> samples);
+
 /// Each (value - 128) x 256: the same samples times 32768. Both spans have one length.
 void ShortsFromBytes(std::span<const std::uint8_t> bytes, std::span<std::int16_t> shorts);
 
@@ -25,6 +28,23 @@ void ShortsFromSamples(std::span<const double> samples, std::span<std::int16_t> 
 /// The same for two channels of one length, interleaved left first into `shorts`.
 void ShortsFromSamples(std::span<const double> left, std::span<const double> right,
                        std::span<std::int16_t> shorts);
+
+/// Each sample x 128 + 128 to nearest, half to even. No clipping: error 6 for a value outside 8
+/// bits. `bytes` is as long as `samples`.
+void BytesFromSamples(std::span<const double> samples, std::span<std::uint8_t> bytes);
+
+/// Each sample x 2147483647 the same way in 32 bits, so that 1.0 fits.
+void LongsFromSamples(std::span<const double> samples, std::span<std::int32_t> longs);
+
+// The same by the type of the numbers, for templates.
+// clang-format off
+inline void Convert(std::span<const std::uint8_t> numbers, std::span<double> samples) { SamplesFromBytes(numbers, samples); }
+inline void Convert(std::span<const std::int16_t> numbers, std::span<double> samples) { SamplesFromShorts(numbers, samples); }
+inline void Convert(std::span<const std::int32_t> numbers, std::span<double> samples) { SamplesFromLongs(numbers, samples); }
+inline void Convert(std::span<const double> samples, std::span<std::uint8_t> numbers) { BytesFromSamples(samples, numbers); }
+inline void Convert(std::span<const double> samples, std::span<std::int16_t> numbers) { ShortsFromSamples(samples, numbers); }
+inline void Convert(std::span<const double> samples, std::span<std::int32_t> numbers) { LongsFromSamples(samples, numbers); }
+// clang-format on
 
 /// The kernels behind them, for one width of vectors.
 struct SampleKernels {

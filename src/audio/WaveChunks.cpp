@@ -11,13 +11,6 @@ using namespace wave_messages;
 
 namespace {
 
-/// Shows the message and gives its text for the record.
-std::string Fault(const char* title, const std::string& text)
-{
-    ShowFileError(title, text);
-    return text;
-}
-
 /// Reads one number of the named type into a field. False if the file has no more.
 template <class T> bool ReadField(FileNumber file, const char* type_name, T& field)
 {
@@ -44,15 +37,17 @@ bool SkipRest(FileNumber file, const ChunkHeader& chunk, std::int32_t used)
 }
 
 /// What tag 1 has behind the common fields.
-std::string ReadPcmPart(FileNumber file, const ChunkHeader& chunk, WaveFormatFields& format)
+std::string ReadPcmPart(FileNumber file, const ChunkHeader& chunk, WaveFormatFields& format,
+                        MessageForm form)
 {
-    if (chunk.Size < kPcmBytes) return Fault(kReadWaveformat, kPcmShortChunk);
-    if (!ReadField(file, "short", format.nBitsPerSample)) return Fault(kReadWaveformat, kPcmBits);
+    if (chunk.Size < kPcmBytes) return ShowWaveFault(form, kReadWaveformat, kPcmShortChunk);
+    if (!ReadField(file, "short", format.nBitsPerSample))
+        return ShowWaveFault(form, kReadWaveformat, kPcmBits);
     const bool extra = chunk.Size >= kExtraBytes;
     if (extra && !ReadField(file, "short", format.cbExtra))
-        return Fault(kReadWaveformat, kPcmExtra);
+        return ShowWaveFault(form, kReadWaveformat, kPcmExtra);
     if (!SkipRest(file, chunk, extra ? kExtraBytes : kPcmBytes))
-        return Fault(kReadWaveformat, kPcmSeek);
+        return ShowWaveFault(form, kReadWaveformat, kPcmSeek);
     return {};
 }
 
@@ -67,66 +62,83 @@ bool ReadCommonPart(FileNumber file, WaveFormatFields& format)
 
 } // namespace
 
-FileNumber open_wav(const std::string& FileName)
+std::string ShowWaveFault(MessageForm Form, const char* title, const std::string& text)
+{
+    if (Form == MessageForm::Titled)
+        ShowFileError(title, text);
+    else
+        ShowPlainMessage(text);
+    return text;
+}
+
+std::string WaveFileName(const std::string& FileName)
 {
     const bool named_in_full = FileName.find('.') != std::string::npos;
-    const std::string name = named_in_full ? FileName : FileName + ".wav";
+    return named_in_full ? FileName : FileName + ".wav";
+}
+
+FileNumber open_wav(const std::string& FileName, MessageForm Form)
+{
+    const std::string name = WaveFileName(FileName);
     if (FileExists(name)) return OpenForReading(name);
-    ShowFileError(kOpenWav, kNoWavFile);
+    ShowWaveFault(Form, kOpenWav, kNoWavFile);
     return kNoFile;
 }
 
-ChunkHeader read_ckinfo(FileNumber File)
+ChunkHeader read_ckinfo(FileNumber File, MessageForm Form)
 {
     ChunkHeader chunk;
     chunk.File = File;
     const FreadResult id = ReadId(File);
     if (id.Count < 4) {
-        chunk.Message = Fault(kReadCkinfo, kTruncatedHeader);
+        chunk.Message = ShowWaveFault(Form, kReadCkinfo, kTruncatedHeader);
         return chunk;
     }
     chunk.Data = id.Value;
     chunk.ID = deblank(id.Value, id.TypeCode);
-    if (!ReadField(File, "long", chunk.Size)) chunk.Message = Fault(kReadCkinfo, kTruncatedData);
+    if (!ReadField(File, "long", chunk.Size))
+        chunk.Message = ShowWaveFault(Form, kReadCkinfo, kTruncatedData);
     return chunk;
 }
 
-ChunkHeader read_cktype(FileNumber File, std::string_view Expected)
+ChunkHeader read_cktype(FileNumber File, std::string_view Expected, MessageForm Form)
 {
-    ChunkHeader chunk = read_ckinfo(File);
+    ChunkHeader chunk = read_ckinfo(File, Form);
     if (!chunk.Message.empty() || Expected.empty()) return chunk;
     if (!EqualIgnoringCase(chunk.ID, Expected))
-        chunk.Message = Fault(kReadCktype, std::string("<").append(Expected).append(kNotExpected));
+        chunk.Message = ShowWaveFault(Form, kReadCktype,
+                                      std::string("<").append(Expected).append(kNotExpected));
     return chunk;
 }
 
-RiffType find_refftype(FileNumber File, std::string_view Type)
+RiffType find_refftype(FileNumber File, std::string_view Type, MessageForm Form)
 {
     const FreadResult id = ReadId(File);
-    if (id.Count < 4) return {{}, Fault(kFindRefftype, kTruncatedRiff)};
+    if (id.Count < 4) return {{}, ShowWaveFault(Form, kFindRefftype, kTruncatedRiff)};
     RiffType type{deblank(id.Value, id.TypeCode), {}};
-    if (!EqualIgnoringCase(type.ID, Type)) type.Message = Fault(kFindRefftype, kNotWav);
+    if (!EqualIgnoringCase(type.ID, Type))
+        type.Message = ShowWaveFault(Form, kFindRefftype, kNotWav);
     return type;
 }
 
-void read_factck(FileNumber File, const ChunkHeader& Chunk, FactFields& Result)
+void read_factck(FileNumber File, const ChunkHeader& Chunk, FactFields& Result, MessageForm Form)
 {
     constexpr std::int32_t kCountBytes = 4;
     if (Chunk.Size < kCountBytes || !ReadField(File, "long", Result.Samples))
-        Result.Message = Fault(kReadFactck, kFactShort);
+        Result.Message = ShowWaveFault(Form, kReadFactck, kFactShort);
     else if (!SkipRest(File, Chunk, kCountBytes))
-        Result.Message = Fault(kReadFactck, kFactSeek);
+        Result.Message = ShowWaveFault(Form, kReadFactck, kFactSeek);
 }
 
-void read_waveformat(FileNumber File, const ChunkHeader& Chunk, WaveFormatFields& Format)
+void read_waveformat(FileNumber File, const ChunkHeader& Chunk, WaveFormatFields& Format,
+                     MessageForm Form)
 {
-    constexpr std::int16_t kPcm = 1;
     if (Chunk.Size < kFormatBytes || !ReadCommonPart(File, Format)) {
-        Format.Message = Fault(kReadWaveformat, kFormatShort);
-    } else if (Format.wFormatTag == kPcm) {
-        Format.Message = ReadPcmPart(File, Chunk, Format);
+        Format.Message = ShowWaveFault(Form, kReadWaveformat, kFormatShort);
+    } else if (Format.wFormatTag == kPcmTag) {
+        Format.Message = ReadPcmPart(File, Chunk, Format, Form);
     } else if (!SkipRest(File, Chunk, kFormatBytes)) {
-        Format.Message = Fault(kReadWaveformat, kFormatSeek);
+        Format.Message = ShowWaveFault(Form, kReadWaveformat, kFormatSeek);
     }
 }
 

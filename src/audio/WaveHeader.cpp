@@ -1,7 +1,7 @@
-#include "audio/WaveChunks.h"
+#include "audio/WaveHeader.h"
+
 #include "audio/WaveMessages.h"
 #include "audio/WaveStream.h"
-#include "base/Messages.h"
 #include "base/Numbers.h"
 
 namespace lumora {
@@ -14,25 +14,26 @@ namespace {
 /// its text in the record, on which the walk ends.
 class HeaderWalk {
 public:
-    HeaderWalk(FileNumber file, WaveInfo& info) : file_(file), info_(info) {}
+    HeaderWalk(FileNumber file, MessageForm form, WaveInfo& info)
+        : file_(file), form_(form), info_(info)
+    {
+    }
 
     void Run()
     {
-        if (ReadRiff()) {
-            while (info_.DataID.empty() && ReadChunk()) {
-            }
+        if (!ReadRiff()) return;
+        while (info_.DataID.empty() && ReadChunk()) {
         }
-        if (info_.Message.empty()) CountSamples();
     }
 
 private:
     bool ReadRiff()
     {
-        const ChunkHeader riff = read_cktype(file_, "RIFF");
+        const ChunkHeader riff = read_cktype(file_, "RIFF", form_);
         if (Failed(riff.Message)) return false;
         info_.RiffID = riff.ID;
         info_.RiffSize = riff.Size;
-        const RiffType wave = find_refftype(file_, "WAVE");
+        const RiffType wave = find_refftype(file_, "WAVE", form_);
         if (Failed(wave.Message)) return false;
         info_.WaveID = wave.ID;
         return true;
@@ -40,7 +41,7 @@ private:
 
     bool ReadChunk()
     {
-        const ChunkHeader chunk = read_cktype(file_, "");
+        const ChunkHeader chunk = read_cktype(file_, "", form_);
         if (Failed(chunk.Message)) return false;
         if (chunk.ID == "fact") return ReadFact(chunk);
         if (chunk.ID == "data") return NoteData(chunk);
@@ -54,7 +55,7 @@ private:
         info_.FactID = chunk.ID;
         info_.FactSize = chunk.Size;
         FactFields fact;
-        read_factck(file_, chunk, fact);
+        read_factck(file_, chunk, fact, form_);
         info_.TotalSamples = fact.Samples; // until the data chunk tells the truth
         return !Failed(fact.Message);
     }
@@ -64,7 +65,7 @@ private:
         info_.FmtID = chunk.ID;
         info_.FmtSize = chunk.Size;
         WaveFormatFields format;
-        read_waveformat(file_, chunk, format);
+        read_waveformat(file_, chunk, format, form_);
         if (Failed(format.Message)) return false;
         info_.wFormatTag = format.wFormatTag;
         info_.nChannels = format.nChannels;
@@ -89,8 +90,7 @@ private:
         info_.DataID = chunk.ID;
         info_.DataSize = chunk.Size;
         if (info_.FmtID.empty()) {
-            info_.Message = kDataBeforeFormat;
-            ShowFileError(kWavread, kDataBeforeFormat);
+            info_.Message = ShowWaveFault(form_, kWavread, kDataBeforeFormat);
             return false;
         }
         info_.DataStart = CLng(FilePosition(file_));
@@ -103,17 +103,8 @@ private:
     bool PassUnknown(const ChunkHeader& chunk)
     {
         if (fseek(file_, chunk.Size, "SET_CUR").Status == 0) return true;
-        info_.Message = kBadChunkSize;
-        ShowFileError(kWavread, kBadChunkSize);
+        info_.Message = ShowWaveFault(form_, kWavread, kBadChunkSize);
         return false;
-    }
-
-    void CountSamples()
-    {
-        const std::int64_t bits = info_.nBitsPerSample == 0 ? 16 : info_.nBitsPerSample;
-        const std::int64_t bytes = std::int64_t{info_.DataEnd} - info_.DataStart + 1;
-        info_.TotalSamples = CLng(Int(
-            Divide(static_cast<double>(bytes * 8), static_cast<double>(bits * info_.nChannels))));
     }
 
     bool Failed(const std::string& message)
@@ -123,18 +114,35 @@ private:
     }
 
     FileNumber file_;
+    MessageForm form_;
     WaveInfo& info_;
     bool behind_info_ = false;
 };
 
+/// Samples per channel, from the data size: what a fact chunk states is not trusted.
+std::int32_t CountedSamples(const WaveInfo& info)
+{
+    const std::int64_t bits = info.nBitsPerSample == 0 ? 16 : info.nBitsPerSample;
+    const std::int64_t bytes = std::int64_t{info.DataEnd} - info.DataStart + 1;
+    return CLng(
+        Int(Divide(static_cast<double>(bytes * 8), static_cast<double>(bits * info.nChannels))));
+}
+
 } // namespace
+
+WaveInfo ReadHeader(FileNumber File, MessageForm Form)
+{
+    WaveInfo info;
+    HeaderWalk(File, Form, info).Run();
+    return info;
+}
 
 WaveInfo ReadWaveInfo(const std::string& FileName)
 {
-    WaveInfo info;
-    OpenFile file(open_wav(FileName));
-    if (file.Failed()) return info;
-    HeaderWalk(file.Number(), info).Run();
+    const OpenFile file(open_wav(FileName));
+    if (file.Failed()) return {};
+    WaveInfo info = ReadHeader(file.Number(), MessageForm::Titled);
+    if (info.Message.empty()) info.TotalSamples = CountedSamples(info);
     return info;
 }
 

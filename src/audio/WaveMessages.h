@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 /// The texts and titles of the WAVE routines, spelled as users know them. Texts that differ in a
 /// single letter tell different faults.
 namespace lumora::wave_messages {
@@ -32,5 +34,33 @@ inline constexpr char kDataBeforeFormat[] =
     "Corrupt WAV file : found data before format information.";
 inline constexpr char kBadChunkSize[] = "Incorrect chunk size information in RIFF file. ";
 inline constexpr char kNoOutput[] = " Cannot open  WAV file for output.";
+
+// The whole-file routines; theirs come without a title.
+inline constexpr char kPcmFormat[] = "Error reading PCM file format.";
+inline constexpr char kReadTooWide[] =
+    "Cannot read PCM file formats with more than 32 bits per samle";
+inline constexpr char kOutOfLimits[] = "Sample limits out of range.";
+inline constexpr char kNotSupported[] =
+    " data compression format is not supported";    ///< behind the name
+inline constexpr char kFormatNumber[] = "format #"; ///< in front of a tag that has no name
+inline constexpr char kNoSignal[] = "Incorrect First parametr";
+inline constexpr char kWriteTooWide[] = "Cannot write WAVE files with more than 16 bits/sample.";
+
+struct FormatName {
+    std::int16_t tag;
+    const char* name;
+};
+inline constexpr FormatName kFormatNames[] = {
+    {2, "Microsoft ADPCM"},
+    {6, "CCITT a-law"},
+    {7, "CCITT mu-law"},
+    {17, "IMA ADPCM"},
+    {34, "DSP Group TrueSpeech TM"},
+    {49, "GsM 6.10"},
+    {50, "MSN Audio"},
+    {257, "IBM Mu-law"},
+    {258, "IBM A-law"},
+    {259, "IBM AVC Adaptive Diffrential"},
+};
 
 } // namespace lumora::wave_messages

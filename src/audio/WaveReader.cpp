@@ -89,15 +89,6 @@ void ReadRaw(const std::string& file_name, const FrameRange& range, Array<Raw>& 
     reader.Read(values.Span());
 }
 
-void Convert(std::span<const std::int16_t> raw, std::span<double> samples)
-{
-    SamplesFromShorts(raw, samples);
-}
-void Convert(std::span<const std::uint8_t> raw, std::span<double> samples)
-{
-    SamplesFromBytes(raw, samples);
-}
-
 /// Channels beyond the second are not served: they read as zero.
 void SilenceFurtherChannels(std::span<double> samples, std::size_t channels)
 {

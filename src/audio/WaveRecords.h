@@ -16,6 +16,9 @@ struct ChunkHeader {
     std::string Message;   ///< empty, or the text of an error
 };
 
+/// The format tag of plain samples, the only ones that are read and written.
+inline constexpr std::int16_t kPcmTag = 1;
+
 /// The fields of a format chunk.
 struct WaveFormatFields {
     std::int16_t wFormatTag = 0;

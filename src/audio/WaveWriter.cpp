@@ -1,3 +1,4 @@
+#include "audio/WaveFields.h"
 #include "audio/WaveMessages.h"
 #include "audio/WaveStream.h"
 #include "base/Messages.h"
@@ -31,21 +32,6 @@ std::int64_t BytesOf(const Array<std::int16_t>& samples)
     return static_cast<std::int64_t>(samples.Span().size()) * kSampleBytes;
 }
 
-void PutLong(FileNumber file, std::int32_t value)
-{
-    fwrite(file, value, "long");
-}
-
-void PutShort(FileNumber file, std::int32_t value)
-{
-    fwrite(file, value, "short");
-}
-
-void PutId(FileNumber file, const char* id)
-{
-    fwrite(file, std::string(id), "_string");
-}
-
 void PutHeader(FileNumber file, std::int32_t channels, std::int32_t rate, std::int32_t data_bytes)
 {
     const std::int32_t frame_bytes = channels * kSampleBytes;
@@ -54,12 +40,8 @@ void PutHeader(FileNumber file, std::int32_t channels, std::int32_t rate, std::i
     PutId(file, "WAVE");
     PutId(file, "fmt ");
     PutLong(file, 18);
-    PutShort(file, 1); // format tag: PCM
-    PutShort(file, channels);
-    PutLong(file, rate);
-    PutLong(file, CLng(std::int64_t{rate} * frame_bytes));
-    PutShort(file, frame_bytes);
-    PutShort(file, 8 * kSampleBytes);
+    PutPcmFields(file, {CInt(channels), rate, CLng(std::int64_t{rate} * frame_bytes),
+                        CInt(frame_bytes), 8 * kSampleBytes});
     PutShort(file, 0); // no extra format bytes
     PutId(file, "fact");
     PutLong(file, 4);

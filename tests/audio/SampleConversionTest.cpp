@@ -127,6 +127,65 @@ TEST(SamplesFromBytes, HasSilenceAt128)
               (std::vector{-1.0, -0.5, 0.0, 127.0 / 128}));
 }
 
+TEST(SamplesFromLongs, AreExactFractions)
+{
+    const std::int32_t longs[] = {std::numeric_limits<std::int32_t>::min(), -1, 0, 1, 1 << 30,
+                                  std::numeric_limits<std::int32_t>::max()};
+    double samples[6] = {};
+    SamplesFromLongs(longs, samples);
+    EXPECT_EQ(std::vector<double>(samples, samples + 6),
+              (std::vector{-1.0, -0x1p-31, 0.0, 0x1p-31, 0.5, 1.0 - 0x1p-31}));
+}
+
+TEST(BytesFromSamples, HasSilenceAt128AndRoundsHalfToEven)
+{
+    const double samples[] = {-1.0,      0.0,        127.0 / 128, 0.5 / 128,
+                              1.5 / 128, -0.5 / 128, 127.49 / 128};
+    std::uint8_t bytes[7] = {};
+    BytesFromSamples(samples, bytes);
+    EXPECT_EQ(std::vector<int>(bytes, bytes + 7), (std::vector{0, 128, 255, 128, 130, 128, 255}));
+}
+
+TEST(BytesFromSamples, GoThereAndBackWithoutALoss)
+{
+    std::vector<std::uint8_t> bytes;
+    for (int value = 0; value <= 255; ++value)
+        bytes.push_back(static_cast<std::uint8_t>(value));
+    std::vector<double> samples(bytes.size());
+    std::vector<std::uint8_t> back(bytes.size());
+    SamplesFromBytes(bytes, samples);
+    BytesFromSamples(samples, back);
+    EXPECT_EQ(back, bytes);
+}
+
+TEST(LongsFromSamples, HaveOneAtTheTopAndRoundHalfToEven)
+{
+    const double samples[] = {1.0, -1.0, 0.0, 0.5, -0.5, 0.25};
+    std::int32_t longs[6] = {};
+    LongsFromSamples(samples, longs);
+    EXPECT_EQ(std::vector<std::int32_t>(longs, longs + 6),
+              (std::vector<std::int32_t>{2147483647, -2147483647, 0, 1073741824, -1073741824,
+                                         536870912}));
+}
+
+TEST(BytesAndLongsFromSamples, OverflowWhereverTheMisfitStands)
+{
+    for (std::size_t length : kLengths)
+        for (std::size_t place = 0; place < length; place += 1 + length / 40) {
+            for (double misfit : {1.5, -1.5, 1e300, -1e300, kNan, kInfinity, -kInfinity}) {
+                std::vector<double> samples(length, 0.25);
+                samples[place] = misfit;
+                std::vector<std::uint8_t> bytes(length);
+                std::vector<std::int32_t> longs(length);
+                ASSERT_EQ(Raised([&] { BytesFromSamples(samples, bytes); }), 6) << misfit;
+                ASSERT_EQ(Raised([&] { LongsFromSamples(samples, longs); }), 6) << misfit;
+            }
+        }
+    const double one[] = {1.0}; // 256
+    std::uint8_t byte[1] = {};
+    EXPECT_EQ(Raised([&] { BytesFromSamples(one, byte); }), 6);
+}
+
 TEST(ShortsFromSamples, OverflowsInsteadOfClipping)
 {
     std::int16_t shorts[4] = {};
