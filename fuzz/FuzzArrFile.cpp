@@ -11,28 +11,38 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <new>
 
 namespace {
 
-std::size_t taken = 0; // bytes since the input began, given back or not
+std::size_t taken = 0; // bytes of all allocations, given back or not
+
+void* Taken(std::size_t size)
+{
+    taken += size;
+    return std::malloc(size);
+}
+
+void* TakenOrThrown(std::size_t size)
+{
+    if (void* place = Taken(size)) return place;
+    throw std::bad_alloc();
+}
 
 } // namespace
 
-void* operator new(std::size_t size)
-{
-    taken += size;
-    if (void* place = std::malloc(size)) return place;
-    throw std::bad_alloc();
-}
-void operator delete(void* place) noexcept
-{
-    std::free(place);
-}
-void operator delete(void* place, std::size_t) noexcept
-{
-    std::free(place);
-}
+// All of them, so that a sanitizer's own never meet ours.
+// clang-format off
+void* operator new  (std::size_t size)                                 { return TakenOrThrown(size); }
+void* operator new[](std::size_t size)                                 { return TakenOrThrown(size); }
+void* operator new  (std::size_t size, const std::nothrow_t&) noexcept { return Taken(size); }
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept { return Taken(size); }
+void operator delete  (void* place) noexcept              { std::free(place); }
+void operator delete[](void* place) noexcept              { std::free(place); }
+void operator delete  (void* place, std::size_t) noexcept { std::free(place); }
+void operator delete[](void* place, std::size_t) noexcept { std::free(place); }
+// clang-format on
 
 namespace lumora {
 namespace {
@@ -59,13 +69,15 @@ void CheckValue(const Variant& value, const std::string& kind)
 /// The bytes that a value is written as.
 std::string Written(const Variant& value, std::string kind)
 {
+    static const std::string name =
+        std::filesystem::temp_directory_path() / ("lumora-fuzz-" + std::to_string(getpid()));
     if (kind == "date") kind = "data"; // the writer's word
-    const fuzz::MemoryFile file({});
-    const std::int32_t count = WriteArrTo(file.Name(), value, kind);
-    std::string bytes(static_cast<std::size_t>(count) + 1, '\0');
-    const OpenFile written(OpenForReading(file.Name()));
-    bytes.resize(ReadValues(written.Number(), std::span(bytes)));
+    const std::int32_t count = WriteArrTo(name, value, kind);
+    const OpenFile written(OpenForReading(name));
+    std::filesystem::remove(name);
+    std::string bytes(static_cast<std::size_t>(FileLength(written.Number())), '\0');
     Demand(bytes.size() == static_cast<std::size_t>(count));
+    Demand(ReadValues(written.Number(), std::span(bytes)) == bytes.size());
     return bytes;
 }
 
