@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 
+#include "cli/ArrCommand.h"
 #include "cli/InfoCommand.h"
 #include "cli/PitchCommand.h"
 #include "cli/StandardOutput.h"
@@ -23,6 +24,10 @@ int Run(const InfoRequest& request)
 {
     return RunInfoCommand(request);
 }
+int Run(const ArrRequest& request)
+{
+    return RunArrCommand(request);
+}
 int Run(const HelpRequest& request)
 {
     PrintText(request.text);
@@ -38,7 +43,7 @@ int RunCommand(std::vector<std::string> words)
                           ReadCommandLine(std::move(words)));
     } catch (const UsageError& error) {
         PrintError(error.what());
-        PrintError("lumora help, lumora help pitch and lumora help info tell more");
+        PrintError("lumora help and lumora help COMMAND tell more");
         return kWrongUsage;
     } catch (const std::exception& error) {
         PrintError(error.what());

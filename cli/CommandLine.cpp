@@ -31,12 +31,24 @@ constexpr SettingOption kSettings[] = {
     {"--q-p", "Q", "Old pitch over new pitch, 0.5 to 2.0", PitchSetting::FromQuotient},
 };
 
+constexpr std::pair<const char*, ArrClass> kArrClasses[] = {{"matrix", ArrClass::Matrix},
+                                                            {"long", ArrClass::Long},
+                                                            {"string", ArrClass::String},
+                                                            {"complex", ArrClass::Complex}};
+
 constexpr char kPitchFooter[] = R"(
 IN is any sound file with one or two channels; what is not a plain 8- or 16-bit
 WAVE file is converted first. OUT is a 16-bit WAVE file, at most 10 ms shorter.
 
   lumora pitch song.wav higher.wav --tones +1/8
   lumora pitch *.flac --out-dir lower --tones -2-3/8 --jobs 4)";
+
+constexpr char kArrFooter[] = R"(
+FILE is a matrix file (.arr), CSV a table of comma-separated cells in UTF-8.
+
+  lumora arr show keys.arr
+  lumora arr to-csv keys.arr keys.csv
+  lumora arr from-csv keys.csv keys.arr --as string)";
 
 /// The help of each command with a usage line that says how the files are told apart.
 class HelpText : public CLI::Formatter {
@@ -49,7 +61,11 @@ public:
             return "Usage: lumora pitch IN OUT SETTING [OPTIONS]\n"
                    "       lumora pitch IN... --out-dir DIR SETTING [OPTIONS]\n";
         if (app->get_name() == "info") return "Usage: lumora info FILE... [OPTIONS]\n";
-        return "Usage: lumora pitch | info | help ...\n";
+        if (app->get_name() == "arr")
+            return "Usage: lumora arr show FILE [OPTIONS]\n"
+                   "       lumora arr to-csv FILE [CSV] [OPTIONS]\n"
+                   "       lumora arr from-csv CSV FILE --as CLASS [OPTIONS]\n";
+        return "Usage: lumora pitch | info | arr | help ...\n";
     }
 
     /// One blank line between paragraphs, none at the end.
@@ -72,14 +88,16 @@ public:
         app_.formatter(std::make_shared<HelpText>()); // the commands take it over when added
         pitch_ = app_.add_subcommand("pitch", "Change the pitch of sound files");
         info_ = app_.add_subcommand("info", "Tell what is in sound files");
+        arr_ = app_.add_subcommand("arr", "Show matrix files, and turn them into tables and back");
         help_ = app_.add_subcommand("help", "Explain a command");
         app_.set_version_flag("--version", "lumora " LUMORA_VERSION, "Print the version");
         app_.set_help_flag("-h,--help", "Print this help");
         app_.require_subcommand(1);
-        app_.footer("\nlumora help pitch, lumora help info and the man page tell more.");
+        app_.footer("\nlumora help COMMAND and the man page tell more.");
         AddPitch();
         AddInfo();
-        help_->add_option("COMMAND", topic_, "The command to explain: pitch or info")
+        AddArr();
+        help_->add_option("COMMAND", topic_, "The command to explain: pitch, info or arr")
             ->type_name("");
     }
 
@@ -93,7 +111,8 @@ public:
         } catch (const CLI::CallForVersion& version) {
             return HelpRequest{version.what() + std::string("\n")};
         } catch (const CLI::RequiredError&) {
-            throw UsageError("say what to do: lumora pitch, lumora info or lumora help");
+            throw UsageError(
+                "say what to do: lumora pitch, lumora info, lumora arr or lumora help");
         } catch (const CLI::ParseError& error) {
             throw UsageError(error.what());
         }
@@ -101,6 +120,7 @@ public:
                       std::make_move_iterator(plain_names.end()));
         if (*help_) return Help();
         if (*info_) return Info();
+        if (*arr_) return Arr();
         return Pitch();
     }
 
@@ -133,13 +153,27 @@ private:
         info_->set_help_flag("-h,--help", "Print this help");
     }
 
+    void AddArr()
+    {
+        arr_->add_option("ACTION", files_, "show, to-csv or from-csv, and its files")
+            ->type_name("");
+        arr_->add_option("--as", class_, "What from-csv makes: matrix, long, string or complex")
+            ->type_name("CLASS");
+        arr_->add_flag("--all", arr_request_.all, "Show a large table as a whole");
+        arr_->add_flag("--force", arr_request_.force, "Replace a file that exists already");
+        arr_->add_flag("--json", arr_request_.json, "Print the answer as JSON");
+        arr_->set_help_flag("-h,--help", "Print this help");
+        arr_->footer(kArrFooter);
+    }
+
     Request Help()
     {
         app_.clear(); // a parser that has met a command explains only that one
         if (topic_.empty()) return HelpRequest{app_.help()};
         if (topic_ == "pitch") return HelpRequest{pitch_->help()};
         if (topic_ == "info") return HelpRequest{info_->help()};
-        throw UsageError("there is no command " + topic_ + "; there are pitch and info");
+        if (topic_ == "arr") return HelpRequest{arr_->help()};
+        throw UsageError("there is no command " + topic_ + "; there are pitch, info and arr");
     }
 
     Request Info()
@@ -147,6 +181,33 @@ private:
         if (files_.empty()) throw UsageError("name the files to look at");
         info_request_.files = files_;
         return info_request_;
+    }
+
+    Request Arr()
+    {
+        const std::string action = files_.empty() ? "" : files_.front();
+        const std::size_t names = files_.empty() ? 0 : files_.size() - 1;
+        if (action != "show" && action != "to-csv" && action != "from-csv")
+            throw UsageError("say what to do: lumora arr show, to-csv or from-csv");
+        if (action == "from-csv" ? names != 2 : names < 1)
+            throw UsageError(action == "from-csv" ? "name a table and the matrix file to make of it"
+                                                  : "name a matrix file");
+        if (names > (action == "show" ? 1U : 2U)) throw UsageError("too many names");
+        arr_request_.input = files_[1];
+        if (names == 2) arr_request_.output = files_[2];
+        if (action == "show") return arr_request_;
+        arr_request_.action = action == "to-csv" ? ArrAction::ToCsv : ArrAction::FromCsv;
+        if (arr_request_.action == ArrAction::FromCsv) arr_request_.as = ClassNamed(class_);
+        if (arr_request_.json && arr_request_.output.empty())
+            throw UsageError("with --json the table needs a file of its own: name it");
+        return arr_request_;
+    }
+
+    static ArrClass ClassNamed(const std::string& name)
+    {
+        for (const auto& [each, value] : kArrClasses)
+            if (name == each) return value;
+        throw UsageError("say what to make of the table: --as matrix, long, string or complex");
     }
 
     Request Pitch()
@@ -179,11 +240,14 @@ private:
     CLI::App app_{"Changes the pitch of recorded music in fine steps; its length stays.", "lumora"};
     CLI::App* pitch_ = nullptr;
     CLI::App* info_ = nullptr;
+    CLI::App* arr_ = nullptr;
     CLI::App* help_ = nullptr;
     std::vector<std::string> files_;
     std::string topic_;
     PitchRequest pitch_request_;
     InfoRequest info_request_;
+    ArrRequest arr_request_;
+    std::string class_;
 };
 
 /// The parser takes "[a,b]" for a list and "++" for the end of a command; with "./" ahead they are

@@ -26,12 +26,25 @@ struct InfoRequest {
     bool json = false;
 };
 
+/// `lumora arr`, as it was given.
+enum class ArrAction { Show, ToCsv, FromCsv };
+enum class ArrClass { Matrix, Long, String, Complex };
+struct ArrRequest {
+    ArrAction action = ArrAction::Show;
+    std::string input;
+    std::string output;             ///< to-csv: empty for standard output
+    ArrClass as = ArrClass::Matrix; ///< from-csv
+    bool all = false;               ///< show
+    bool force = false;
+    bool json = false;
+};
+
 /// Text that was asked for instead of work.
 struct HelpRequest {
     std::string text;
 };
 
-using Request = std::variant<PitchRequest, InfoRequest, HelpRequest>;
+using Request = std::variant<PitchRequest, InfoRequest, ArrRequest, HelpRequest>;
 
 /// What the words behind the command's name ask for. UsageError if that cannot be told.
 Request ReadCommandLine(std::vector<std::string> words);

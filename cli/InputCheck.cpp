@@ -3,36 +3,16 @@
 #include "audio/WaveStream.h"
 #include "base/RunTimeError.h"
 #include "cli/EnginePath.h"
+#include "cli/FileFault.h"
 #include "cli/QuietMessages.h"
 #include "cli/SoundFile.h"
 #include "cli/Wording.h"
-
-#include <cerrno>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace lumora {
 
 namespace {
 
 constexpr char kNeverCompleted[] = "its header was never completed";
-
-/// Why there is nothing to read under this name at all.
-std::string FileFault(const std::string& path)
-{
-    struct stat status = {};
-    if (stat(path.c_str(), &status) != 0) {
-        if (errno == ENOENT) return "there is no such file; check the name";
-        return "cannot be reached (" + SystemText(errno) + ")";
-    }
-    if (S_ISDIR(status.st_mode)) return "is a folder; name the files in it";
-    if (!S_ISREG(status.st_mode))
-        return "is a pipe or a device; write the sound to a file first and name that";
-    if (access(path.c_str(), R_OK) != 0)
-        return "cannot be read (" + SystemText(errno) + "); check its permissions";
-    if (status.st_size == 0) return "is empty; there is no sound in it";
-    return {};
-}
 
 /// What keeps the engine's reader from a WAVE file whose header it has read; empty if nothing does.
 std::string HeaderFault(const WaveOutline& outline)
@@ -124,7 +104,7 @@ void TakeWhatLibraryReads(const std::string& path, InputCheck& check)
 InputCheck CheckInput(const std::string& path)
 {
     InputCheck check;
-    check.reason = FileFault(path);
+    check.reason = FileFault(path, "sound");
     if (!check.reason.empty()) return check;
     check.outline = ReadWaveOutline(path);
     check.reason = EngineFault(path, check.outline);

@@ -66,12 +66,11 @@ OutputFile::OutputFile(const std::string& name, Existing existing, Folder folder
 {
 }
 
-std::string OutputFile::Fault() const
+std::string OutputFile::Fault(const std::string& folder_hint) const
 {
     struct stat status = {};
     if (stat(name_.c_str(), &status) == 0) {
-        if (S_ISDIR(status.st_mode))
-            return "is a folder; give the name of a file, or --out-dir " + name_;
+        if (S_ISDIR(status.st_mode)) return "is a folder; give the name of a file" + folder_hint;
         if (!S_ISREG(status.st_mode)) return "is a pipe or a device; give the name of a file";
         return existing_ == Existing::Keep ? kExists : "";
     }

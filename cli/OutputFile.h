@@ -22,8 +22,8 @@ public:
     const std::string& Converted() const { return converted_; } ///< temporary for a converted input
 
     /// Why the target may not be written, as one line; empty if it may. To be asked before any
-    /// work.
-    std::string Fault() const;
+    /// work. `folder_hint` follows what is said where the target is a folder.
+    std::string Fault(const std::string& folder_hint = {}) const;
     /// Makes the folder, where that is wanted, and an empty Result(). JobFailure if it cannot be.
     void Prepare() const;
     /// Gives Result() its final name, in one step. JobFailure if it cannot be, also where a file

@@ -5,6 +5,7 @@
 #include "base/RunTimeError.h"
 #include "cli/Conversion.h"
 #include "cli/EnginePath.h"
+#include "cli/Explained.h"
 #include "cli/InputCheck.h"
 #include "cli/JobFailure.h"
 #include "cli/QuietMessages.h"
@@ -22,22 +23,6 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// A run-time error in the words of whoever started the command.
-std::string Explained(const RunTimeError& error)
-{
-    switch (error.Number()) {
-    case ErrorNumber::DiskFull:
-        return "the result does not fit: the disk is full or a limit on file sizes is reached; "
-               "make room and run it again";
-    case ErrorNumber::OutOfMemory:
-        return "there is not enough memory; end other programs and run it again";
-    case ErrorNumber::DeviceError:
-        return "the disk reports a fault while reading or writing; check it and run it again";
-    default:
-        return std::string(error.what()) + "; this should not happen, please report it";
-    }
-}
-
 class PitchRunner {
 public:
     PitchRunner(const PitchJob& job, JobLink& link) : job_(job), link_(link) {}
@@ -45,7 +30,7 @@ public:
     void Run()
     {
         const Clock::time_point start = Clock::now();
-        const std::string fault = job_.output.Fault();
+        const std::string fault = job_.output.Fault(", or --out-dir " + job_.output.Name());
         if (!fault.empty()) throw JobFailure(NameText(job_.output.Name()) + " " + fault);
         const InputCheck check = CheckInput(job_.input);
         if (check.road == Road::Refused) throw JobFailure(check.reason);

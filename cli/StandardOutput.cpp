@@ -8,7 +8,7 @@ namespace lumora {
 
 void PrintText(const std::string& text)
 {
-    std::fputs(text.c_str(), stdout);
+    std::fwrite(text.data(), 1, text.size(), stdout); // it may hold zero bytes
     std::fflush(stdout);
 }
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Writes the first inputs of the fuzz targets: valid, odd and damaged WAVE files, and programs over
-matrix objects.
+"""Writes the first inputs of the fuzz targets: valid, odd and damaged WAVE files and matrix files,
+and programs over matrix objects.
 
 make_seeds.py OUTDIR   writes OUTDIR/TARGET/* for every target.
 """
@@ -122,6 +122,33 @@ def programs():
                 yield f"{kind}-{other}-{group}", create + steps
 
 
+def arr(rows, columns, tag, elements=b"", letter=b""):
+    return struct.pack("<iii", rows, columns, tag) + elements + letter
+
+
+def matrix_files():
+    text = struct.pack("<H", 2) + b"\xe9\x80" + struct.pack("<H", 0)
+    for rows, columns in ((1, 6), (3, 2), (6, 1)):
+        for tag, elements in ((3, bytes(48)), (4, bytes(96)), (5, 3 * text), (7, bytes(range(24)))):
+            yield f"tag{tag}-{rows}by{columns}", arr(rows, columns, tag, elements)
+        for letter, each in ((b"r", 8), (b"c", 8), (b"d", 8), (b"l", 4), (b"s", 4), (b"i", 2),
+                             (b"b", 1)):
+            yield (f"letter-{letter.decode()}-{rows}by{columns}",
+                   arr(rows, columns, 100, bytes(range(6 * each)), letter))
+        yield f"letter-5-{rows}by{columns}", arr(rows, columns, 100, 3 * text, b"5")
+    yield "unknown-tag", arr(1, 1, 6, bytes(8))
+    yield "unknown-letter", arr(1, 1, 100, bytes(8), b"x")
+    yield "no-letter", arr(1, 1, 100)
+    for length in range(12):
+        yield f"cut-{length}", arr(1, 1, 3)[:length]
+    for tag in (3, 4, 5, 7, 100):
+        yield f"cut-in-{tag}", arr(2, 2, tag, bytes(7), b"b")[:-5]
+        for rows, columns in ((MOST, MOST), (MOST, 1), (1, MOST), (65536, 65536), (0, 1), (1, 0),
+                              (-1, -1), (LEAST, LEAST), (1, 100)):
+            yield f"lie-{tag}-{rows}by{columns}", arr(rows, columns, tag, bytes(64), b"r")
+    yield "long-text", arr(1, 1, 5, b"\xff\xff" + bytes(100))
+
+
 def write_all(folder, files):
     folder.mkdir(parents=True, exist_ok=True)
     for name, content in files:
@@ -135,6 +162,10 @@ def main(out):
               ("promise", plain(size=60000)), ("big-promise", plain(size=10**8)),
               ("half-sample", plain(data=bytes(7), size=10))]
     write_all(out / "FuzzMatrixProgram", programs())
+    write_all(out / "FuzzArrFile",
+              ((f"{name}-{first}-{last}", struct.pack("<ii", first, last) + content)
+               for name, content in matrix_files()
+               for first, last in ((0, 0), (2, 3), (3, 2), (1, 1), (MOST, LEAST))))
     write_all(out / "FuzzWaveSamples",
               ((f"{name}-{which}", struct.pack("<Bii", choice, first, last) + content)
                for name, content in bodies for which, choice, first, last in ranges()))

@@ -2,36 +2,11 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 
-#include <cmath>
 #include <vector>
 
 namespace lumora {
 
 namespace {
-
-template <class T> T Converted(double value);
-template <> std::uint8_t Converted(double value)
-{
-    return CByte(value);
-}
-template <> std::int16_t Converted(double value)
-{
-    return CInt(value);
-}
-template <> std::int32_t Converted(double value)
-{
-    return CLng(value);
-}
-template <> float Converted(double value)
-{
-    const auto narrow = static_cast<float>(value);
-    if (std::isinf(narrow) && !std::isinf(value)) Raise(ErrorNumber::Overflow);
-    return narrow;
-}
-template <> double Converted(double value)
-{
-    return value;
-}
 
 template <class T, class E>
 std::int32_t WriteConverted(FileNumber file, std::span<const E> elements)
@@ -39,7 +14,7 @@ std::int32_t WriteConverted(FileNumber file, std::span<const E> elements)
     std::vector<T> values;
     values.reserve(elements.size());
     for (const E& element : elements)
-        values.push_back(Converted<T>(NumberOf(element)));
+        values.push_back(FromNumber<T>(NumberOf(element)));
     WriteValues(file, std::span<const T>(values));
     return CLng(elements.size());
 }

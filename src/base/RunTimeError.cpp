@@ -64,6 +64,8 @@ const char* ErrorText(ErrorNumber number)
         return "Device error";
     case ErrorNumber::DiskFull:
         return "Disk full";
+    case ErrorNumber::PastEndOfFile:
+        return "Input past end of file";
     case ErrorNumber::BadRecordNumber:
         return "Bad record number";
     case ErrorNumber::TooManyFiles:

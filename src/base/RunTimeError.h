@@ -17,6 +17,7 @@ enum class ErrorNumber : int {
     FileNotFound = 53,
     DeviceError = 57,
     DiskFull = 61,
+    PastEndOfFile = 62,
     BadRecordNumber = 63,
     TooManyFiles = 67,
     PermissionDenied = 70,

@@ -2,6 +2,7 @@
 
 #include "base/Numbers.h"
 
+#include <cmath>
 #include <type_traits>
 
 namespace lumora {
@@ -28,6 +29,47 @@ double NumberOf(Date value)
 double NumberOf(const std::string& text)
 {
     return CDbl(text);
+}
+
+template <> std::uint8_t FromNumber(double number)
+{
+    return CByte(number);
+}
+
+template <> std::int16_t FromNumber(double number)
+{
+    return CInt(number);
+}
+
+template <> std::int32_t FromNumber(double number)
+{
+    return CLng(number);
+}
+
+template <> float FromNumber(double number)
+{
+    const auto narrow = static_cast<float>(number);
+    if (std::isinf(narrow) && !std::isinf(number)) Raise(ErrorNumber::Overflow);
+    return narrow;
+}
+
+template <> double FromNumber(double number)
+{
+    return number;
+}
+
+template <> Currency FromNumber(double number)
+{
+    constexpr double kBeyond = 0x1p63;
+    const double ten_thousandths = Round(number * 10000.0);
+    // Written so that a NaN fails the test.
+    if (!(ten_thousandths >= -kBeyond && ten_thousandths < kBeyond)) Raise(ErrorNumber::Overflow);
+    return {static_cast<std::int64_t>(ten_thousandths)};
+}
+
+template <> Date FromNumber(double number)
+{
+    return {number};
 }
 
 bool Variant::IsNumber() const

@@ -44,6 +44,17 @@ double NumberOf(Currency value);
 double NumberOf(Date value);
 double NumberOf(const std::string& text);
 
+/// The other way: a number as one element of a kind. Whole kinds and Currency take the nearest,
+/// half to even. Error 6 if it does not fit; a float takes infinities.
+template <class T> T FromNumber(double number);
+template <> std::uint8_t FromNumber(double number);
+template <> std::int16_t FromNumber(double number);
+template <> std::int32_t FromNumber(double number);
+template <> float FromNumber(double number);
+template <> double FromNumber(double number);
+template <> Currency FromNumber(double number);
+template <> Date FromNumber(double number);
+
 /// The tagged value: empty, a number, a text, an array, or a Ref to one of the seven matrix
 /// classes. A fresh one is empty.
 class Variant {

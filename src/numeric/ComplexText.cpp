@@ -1,6 +1,5 @@
 #include "numeric/ComplexText.h"
 
-#include "base/Numbers.h"
 #include "base/Text.h"
 
 namespace lumora {
@@ -19,26 +18,26 @@ std::size_t ImaginarySign(std::string_view text)
     return sign;
 }
 
-std::optional<double> SpelledOr(double if_blank, std::string_view text)
+std::optional<double> SpelledOr(double if_blank, std::string_view text, SpelledNumberRule spelled)
 {
-    return TrimBlanks(text).empty() ? if_blank : SpelledNumber(text);
+    return TrimBlanks(text).empty() ? if_blank : spelled(text);
 }
 
 } // namespace
 
-std::optional<ComplexValue> SpelledComplex(std::string_view text)
+std::optional<ComplexValue> SpelledComplex(std::string_view text, SpelledNumberRule spelled)
 {
     const std::string_view trimmed = TrimBlanks(text);
     if (!trimmed.ends_with('i')) {
-        const std::optional<double> re = SpelledNumber(trimmed);
+        const std::optional<double> re = spelled(trimmed);
         return re ? std::optional(ComplexValue{*re, 0.0}) : std::nullopt;
     }
     const std::string_view number = trimmed.substr(0, trimmed.size() - 1);
-    if (const std::optional<double> im = SpelledOr(1.0, number)) return ComplexValue{0.0, *im};
+    if (const std::optional<double> im = SpelledOr(1.0, number, spelled)) return ComplexValue{0.0, *im};
     const std::size_t sign = ImaginarySign(number);
     if (sign == std::string_view::npos) return std::nullopt;
-    const std::optional<double> re = SpelledOr(0.0, number.substr(0, sign));
-    const std::optional<double> im = SpelledOr(1.0, number.substr(sign + 1));
+    const std::optional<double> re = SpelledOr(0.0, number.substr(0, sign), spelled);
+    const std::optional<double> im = SpelledOr(1.0, number.substr(sign + 1), spelled);
     if (!re || !im) return std::nullopt;
     return ComplexValue{*re, number[sign] == '-' ? -*im : *im};
 }

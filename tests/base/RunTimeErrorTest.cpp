@@ -28,6 +28,7 @@ const struct {
     {ErrorNumber::FileNotFound, 53, "file not found"},
     {ErrorNumber::DeviceError, 57, "device"},
     {ErrorNumber::DiskFull, 61, "disk full"},
+    {ErrorNumber::PastEndOfFile, 62, "past end of file"},
     {ErrorNumber::BadRecordNumber, 63, "bad record number"},
     {ErrorNumber::TooManyFiles, 67, "too many files"},
     {ErrorNumber::PermissionDenied, 70, "permission denied"},

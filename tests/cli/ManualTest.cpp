@@ -36,7 +36,8 @@ std::string HelpOf(const Names& words)
 
 std::set<std::string> AllOptions()
 {
-    return OptionsIn(HelpOf({"--help"}) + HelpOf({"help", "pitch"}) + HelpOf({"help", "info"}));
+    return OptionsIn(HelpOf({"--help"}) + HelpOf({"help", "pitch"}) + HelpOf({"help", "info"}) +
+                     HelpOf({"help", "arr"}));
 }
 
 /// The man page as plain text on one endless line for each paragraph.
@@ -57,12 +58,13 @@ TEST(Help, IsTheSameByEveryRoad)
     EXPECT_EQ(HelpOf({"help"}), HelpOf({"-h"}));
     EXPECT_EQ(HelpOf({"help", "pitch"}), HelpOf({"pitch", "--help"}));
     EXPECT_EQ(HelpOf({"help", "info"}), HelpOf({"info", "-h"}));
+    EXPECT_EQ(HelpOf({"help", "arr"}), HelpOf({"arr", "--help"}));
     EXPECT_NE(HelpOf({"help", "pitch"}), HelpOf({"help", "info"}));
 }
 
 TEST(Help, NamesTheCommandsAndHowToCallThem)
 {
-    for (const char* command : {"pitch", "info", "help"})
+    for (const char* command : {"pitch", "info", "arr", "help"})
         EXPECT_NE(HelpOf({"--help"}).find(std::string("\n  ") + command + " "), std::string::npos);
     EXPECT_NE(HelpOf({"help", "pitch"}).find("lumora pitch IN... --out-dir DIR"),
               std::string::npos);
@@ -91,6 +93,9 @@ TEST(ManPage, NamesEveryFieldOfTheJson)
     const Names pitch = {"pitch", "good.wav", "x.wav", "--out-dir",
                          "out",   "--tones",  "1",     "--json"};
     const Names info = {"info", "good.wav", "list.wav", "x.wav", "--json"};
+    folder.Write("z.csv", "1+i,2\n");
+    const Names made = {"arr", "from-csv", "z.csv", "z.arr", "--as", "complex", "--json"};
+    const Names shown = {"arr", "show", "z.arr", "--json"};
     const std::string page = ManPage();
     std::size_t fields = 0;
     const auto expect_told = [&](const auto& self, const nlohmann::json& json) -> void {
@@ -104,7 +109,9 @@ TEST(ManPage, NamesEveryFieldOfTheJson)
     };
     expect_told(expect_told, nlohmann::json::parse(Lumora(pitch, there).out));
     expect_told(expect_told, nlohmann::json::parse(Lumora(info, there).out));
-    EXPECT_GT(fields, 60U);
+    expect_told(expect_told, nlohmann::json::parse(Lumora(made, there).out));
+    expect_told(expect_told, nlohmann::json::parse(Lumora(shown, there).out));
+    EXPECT_GT(fields, 75U);
 }
 
 /// What bash offers for the last of these words.
@@ -129,19 +136,31 @@ std::set<std::string> Completions(const Names& words, const std::string& folder 
 TEST(Completion, OffersCommandsFirst)
 {
     EXPECT_EQ(Completions({"lumora", ""}),
-              (std::set<std::string>{"pitch", "info", "help", "--help", "--version"}));
+              (std::set<std::string>{"pitch", "info", "arr", "help", "--help", "--version"}));
     EXPECT_EQ(Completions({"lumora", "p"}), std::set<std::string>{"pitch"});
-    EXPECT_EQ(Completions({"lumora", "help", ""}), (std::set<std::string>{"pitch", "info"}));
+    EXPECT_EQ(Completions({"lumora", "help", ""}), (std::set<std::string>{"pitch", "info", "arr"}));
 }
 
 TEST(Completion, OffersExactlyTheOptionsOfTheHelp)
 {
-    for (const char* command : {"pitch", "info"}) {
+    for (const char* command : {"pitch", "info", "arr"}) {
         const std::string usage = HelpOf({"help", command});
         EXPECT_EQ(Completions({"lumora", command, "--"}), OptionsIn(usage)) << command;
     }
     EXPECT_EQ(Completions({"lumora", "--"}), OptionsIn(HelpOf({"--help"})));
     EXPECT_EQ(Completions({"lumora", "pitch", "--to"}), std::set<std::string>{"--tones"});
+}
+
+TEST(Completion, OffersWhatToDoWithMatrixFilesAndWhatToMakeOfATable)
+{
+    EXPECT_EQ(Completions({"lumora", "arr", ""}),
+              (std::set<std::string>{"show", "to-csv", "from-csv"}));
+    EXPECT_EQ(Completions({"lumora", "arr", "from-csv", "--as", ""}),
+              (std::set<std::string>{"matrix", "long", "string", "complex"}));
+    const TempFolder folder;
+    folder.Write("keys.arr", "");
+    EXPECT_EQ(Completions({"lumora", "arr", "show", ""}, folder.Path().string()),
+              std::set<std::string>{"keys.arr"});
 }
 
 TEST(Completion, OffersFilesFoldersOrNothingAsTheOptionWants)
