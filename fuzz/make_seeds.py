@@ -149,6 +149,18 @@ def matrix_files():
     yield "long-text", arr(1, 1, 5, b"\xff\xff" + bytes(100))
 
 
+def tables():
+    numbers = b"1,-2.5,3e5\n0.1,NaN,-Inf\n"
+    whole = b"1,2147483647\r\n-2147483648,0\r\n"
+    texts = b'\xef\xbb\xbf"a ""b"", c",d\n\n"two\nlines"," e"\n'
+    parts = b"1+2i,-i,3\n1e-3-1e+3i,Inf-NaNi,0\n"
+    faults = (b"1,2\n3\n", b'"open', b'"closed"x\n', b"\n\n", b"2147483648\n", b"1.5\n",
+              b"\xe6\x97\xa5,\xff\n", b",\n", b"1", b'""')
+    for kind in range(4):
+        for k, table in enumerate((numbers, whole, texts, parts, *faults)):
+            yield f"class{kind}-{k}", bytes([kind]) + table
+
+
 def write_all(folder, files):
     folder.mkdir(parents=True, exist_ok=True)
     for name, content in files:
@@ -162,6 +174,7 @@ def main(out):
               ("promise", plain(size=60000)), ("big-promise", plain(size=10**8)),
               ("half-sample", plain(data=bytes(7), size=10))]
     write_all(out / "FuzzMatrixProgram", programs())
+    write_all(out / "FuzzCsv", tables())
     write_all(out / "FuzzArrFile",
               ((f"{name}-{first}-{last}", struct.pack("<ii", first, last) + content)
                for name, content in matrix_files()

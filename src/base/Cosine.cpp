@@ -103,17 +103,28 @@ Pair Remainder(double radians, double quarters)
     return rest;
 }
 
-} // namespace
-
-double Cosine(double radians)
+/// Cosine of the angle less so many quarter turns.
+double CosineBehind(int quarters_behind, double radians)
 {
     const double quarters = std::nearbyint(radians / kQuarterTurn);
     const Pair rest = Remainder(radians, quarters);
     const Pair square = rest * rest;
-    const int quadrant = static_cast<int>(quarters) & 3;
+    const int quadrant = (static_cast<int>(quarters) - quarters_behind) & 3;
     const bool odd = quadrant == 1 || quadrant == 3;
     const Pair value = odd ? rest * Series(kSineTerms, square) : Series(kCosineTerms, square);
     return quadrant == 1 || quadrant == 2 ? -value.high : value.high;
+}
+
+} // namespace
+
+double Cosine(double radians)
+{
+    return CosineBehind(0, radians);
+}
+
+double Sine(double radians)
+{
+    return CosineBehind(1, radians);
 }
 
 } // namespace lumora

@@ -7,4 +7,7 @@ namespace lumora {
 /// its version and on the processor it meets; this one does not.
 double Cosine(double radians);
 
+/// Sine, as true.
+double Sine(double radians);
+
 } // namespace lumora

@@ -1,5 +1,6 @@
 #include "numeric/Fourier.h"
 
+#include "base/Cosine.h"
 #include "base/Numbers.h"
 #include "base/Vectors.h"
 #include "numeric/Results.h"
@@ -7,7 +8,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <cmath>
 #include <cstddef>
 #include <cstring>
 #include <utility>
@@ -95,14 +95,16 @@ void RunStage(Parts x, std::size_t size, std::size_t half, Parts factors, Vector
     StageBaseline(x, size, half, factors);
 }
 
+constexpr double kTurn = 6.283185307179586;
+
 /// The factors of one stage, each from the one before it.
 class Chain {
 public:
     Chain(Parts factors, std::size_t half) : at_(factors.From(half))
     {
-        const double angle = -8.0 * std::atan(1.0) / static_cast<double>(2 * half);
-        wr_ = c_ = std::cos(angle);
-        wi_ = d_ = std::sin(angle);
+        const double angle = kTurn / static_cast<double>(2 * half);
+        wr_ = c_ = Cosine(angle);
+        wi_ = d_ = -Sine(angle); // the angle is negative, whichever way the transform goes
         *at_.re = 1.0;
         *at_.im = 0.0;
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/ReferenceCosine.h"
+#include "support/ReferenceCosine.h"
 
 #include <algorithm>
 #include <cmath>

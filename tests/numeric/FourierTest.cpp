@@ -2,6 +2,7 @@
 #include "base/Numbers.h"
 #include "numeric/Matrices.h"
 #include "support/Raised.h"
+#include "support/ReferenceCosine.h"
 
 #include <gtest/gtest.h>
 
@@ -80,8 +81,8 @@ void PlainStages(Array<double>& re, Array<double>& im, std::int64_t n_fft)
     for (int s = 1; s <= stages; ++s) {
         const std::int64_t le2 = 2 * le;
         const double angle = -two_pi / static_cast<double>(le2);
-        const double c = std::cos(angle);
-        const double d = std::sin(angle);
+        const double c = test::ReferenceCosine(angle);
+        const double d = test::ReferenceSine(angle);
         for (std::int64_t i = 1; i <= n_fft; i += le2)
             PlainButterfly(re, im, i, i + le, re(i + le), im(i + le));
         double wr = c;

@@ -1,6 +1,6 @@
 #include "base/Cosine.h"
 
-#include "engine/ReferenceCosine.h"
+#include "support/ReferenceCosine.h"
 
 #include <bit>
 #include <cstdint>
@@ -11,6 +11,7 @@ namespace lumora {
 namespace {
 
 using test::ReferenceCosine;
+using test::ReferenceSine;
 
 std::uint64_t Bits(double value)
 {
@@ -55,6 +56,25 @@ TEST(Cosine, IsTheNearestDoubleForSmallArguments)
     for (double x = 1.0; x > 1e-300; x *= 0.37)
         ASSERT_EQ(Bits(Cosine(x)), Bits(ReferenceCosine(x))) << x;
     EXPECT_EQ(Bits(Cosine(0.0)), Bits(1.0));
+}
+
+TEST(Sine, IsTheNearestDoubleForEveryFactorOfATransform)
+{
+    for (double angle = 3.141592653589793; angle > 1e-12; angle /= 2.0) {
+        ASSERT_EQ(Bits(Sine(angle)), Bits(ReferenceSine(angle))) << angle;
+        ASSERT_EQ(Bits(Cosine(angle)), Bits(ReferenceCosine(angle))) << angle;
+    }
+    EXPECT_EQ(Bits(Sine(0.0)), Bits(0.0));
+}
+
+TEST(Sine, IsTheNearestDoubleAnywhereUpToAHundred)
+{
+    std::mt19937_64 generator(21);
+    std::uniform_real_distribution<double> anywhere(0.0, 100.0);
+    for (int k = 0; k < 20000; ++k) {
+        const double x = anywhere(generator);
+        ASSERT_EQ(Bits(Sine(x)), Bits(ReferenceSine(x))) << x;
+    }
 }
 
 } // namespace
