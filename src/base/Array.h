@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/LargeMemory.h"
 #include "base/RunTimeError.h"
 
 #include <algorithm>
@@ -39,6 +40,12 @@ template <class T> struct UnwrittenMemory : std::allocator<T> {
     template <class U> struct rebind { // NOLINT(readability-identifier-naming): the standard's name
         using other = UnwrittenMemory<U>;
     };
+    T* allocate(std::size_t count)
+    {
+        T* const place = std::allocator<T>::allocate(count);
+        if (count >= kLargeMemory / sizeof(T)) HintLargeMemory(place, count * sizeof(T));
+        return place;
+    }
     template <class U> void construct(U* place) { ::new (static_cast<void*>(place)) U; }
     template <class U, class... Values> void construct(U* place, Values&&... values)
     {
