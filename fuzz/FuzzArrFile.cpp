@@ -51,7 +51,7 @@ using fuzz::Demand;
 
 // A text of two bytes in the file is 32 in memory and may be copied on its way.
 constexpr std::size_t kMostPerByte = 64;
-constexpr std::size_t kMostBeside = 16 * 1024;
+constexpr std::size_t kMostBeside = std::size_t{16} * 1024;
 
 /// A shape that fits its elements, and the kind that the file was asked for.
 void CheckValue(const Variant& value, const std::string& kind)
@@ -90,7 +90,7 @@ void Check(const std::string& name, std::size_t size, std::int32_t first, std::i
     Demand(taken <= size * kMostPerByte + kMostBeside);
     Demand(!came_back || value.IsEmpty() == kind.IsEmpty());
     if (value.IsEmpty()) return;
-    const std::string word = kind.As<std::string>();
+    const std::string& word = kind.As<std::string>();
     CheckValue(value, word);
     const std::string bytes = Written(value, word);
     const fuzz::MemoryFile again(

@@ -263,16 +263,18 @@ TEST_F(ReadArr, TakesNoMemoryForSizesThatLie)
     rusage before = {};
     getrusage(RUSAGE_SELF, &before);
     for (const int tag : {3, 4, 5, 7, 100})
-        for (const auto& [rows, columns] : {std::pair{kMost, kMost},
-                                            {kMost, std::int64_t{1}},
-                                            {std::int64_t{1}, kMost},
-                                            {kMost, std::int64_t{4}},
-                                            {std::int64_t{65536}, std::int64_t{65536}},
-                                            {std::int64_t{10000}, std::int64_t{10000}}})
-            EXPECT_EQ(
-                Raised([&] { Read(ArrHead(rows, columns, tag) + std::string(64, '\0') + "r"); }),
-                62)
-                << tag << " " << rows << " " << columns;
+        for (const auto& sizes : {std::pair{kMost, kMost},
+                                  {kMost, std::int64_t{1}},
+                                  {std::int64_t{1}, kMost},
+                                  {kMost, std::int64_t{4}},
+                                  {std::int64_t{65536}, std::int64_t{65536}},
+                                  {std::int64_t{10000}, std::int64_t{10000}}})
+            EXPECT_EQ(Raised([&] {
+                          Read(ArrHead(sizes.first, sizes.second, tag) + std::string(64, '\0') +
+                               "r");
+                      }),
+                      62)
+                << tag << " " << sizes.first << " " << sizes.second;
     rusage after = {};
     getrusage(RUSAGE_SELF, &after);
     EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 16 * 1024); // KiB
