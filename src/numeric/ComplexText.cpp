@@ -33,7 +33,8 @@ std::optional<ComplexValue> SpelledComplex(std::string_view text, SpelledNumberR
         return re ? std::optional(ComplexValue{*re, 0.0}) : std::nullopt;
     }
     const std::string_view number = trimmed.substr(0, trimmed.size() - 1);
-    if (const std::optional<double> im = SpelledOr(1.0, number, spelled)) return ComplexValue{0.0, *im};
+    if (const std::optional<double> im = SpelledOr(1.0, number, spelled))
+        return ComplexValue{0.0, *im};
     const std::size_t sign = ImaginarySign(number);
     if (sign == std::string_view::npos) return std::nullopt;
     const std::optional<double> re = SpelledOr(0.0, number.substr(0, sign), spelled);
