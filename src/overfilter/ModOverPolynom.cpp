@@ -47,7 +47,7 @@ std::string RemoveOverFile(const std::string& SourcePath, std::int16_t& QualityF
 {
     OverFilterHooks hooks = Hooks;
     hooks.Bar = Progress;
-    const std::string result = TemporaryPath(SourcePath);
+    std::string result = TemporaryPath(SourcePath);
     DeleteFile(result);
     OverFilterRun run(SourcePath, hooks);
     if (!run.HasSource()) return {};

@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <initializer_list>
-#include <limits>
 
 namespace lumora {
 namespace {
