@@ -8,7 +8,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
-#include <vector>
 
 int main(int argc, char** argv)
 {
@@ -18,16 +17,17 @@ int main(int argc, char** argv)
     if (sound.Bits < 0 || sound.Samples->size2 != 1) return EXIT_FAILURE;
     ClsRemoveOverPolynom filter;
     SetUpForRate(filter, sound.Rate);
-    const auto delay = static_cast<std::size_t>(filter.BufferLen() - 1);
-    std::vector<double> in(sound.Samples->Elements().Span().begin(),
-                           sound.Samples->Elements().Span().end());
-    in.resize(in.size() + delay);
     std::ofstream out(argv[2], std::ios::binary);
-    for (std::size_t k = 0; k < in.size(); ++k) {
+    int ahead = filter.BufferLen() - 1; // samples that come out before the first of the file
+    const auto feed = [&](double x) {
         double pair[2] = {};
-        filter.RemoveOver_Operation(in[k], pair[0]);
+        filter.RemoveOver_Operation(x, pair[0]);
         pair[1] = filter.Gain();
-        if (k >= delay) out.write(reinterpret_cast<const char*>(pair), sizeof pair);
-    }
+        if (ahead-- <= 0) out.write(reinterpret_cast<const char*>(pair), sizeof pair);
+    };
+    for (const double x : sound.Samples->Elements().Span())
+        feed(x);
+    for (int k = 1; k < filter.BufferLen(); ++k)
+        feed(0.0);
     return out.flush() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
