@@ -37,8 +37,7 @@ struct PlainSetUp {
 class PlainRemoveOver {
 public:
     explicit PlainRemoveOver(const PlainSetUp& s)
-        : guard_(s.guard),
-          train_(s.train),
+        : train_(s.train),
           order_(s.order),
           length_(s.guard + s.train),
           centre_(static_cast<int>(std::nearbyint((length_ + 1) / 2.0))),
@@ -286,7 +285,7 @@ private:
             excess_ = std::max(excess_, g > 0 ? buffer_(t) - 1 : -(buffer_(t) + 1));
     }
 
-    int guard_, train_, order_, length_, centre_;
+    int train_, order_, length_, centre_;
     Values buffer_;
     std::vector<Region> regions_;
     int age_ = 221;
