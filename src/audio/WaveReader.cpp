@@ -39,15 +39,6 @@ struct FrameRange {
     }
 };
 
-/// Elements of one chunk of the highest count of channels served. A header may promise this much
-/// more than its file holds; beyond it the promise is not worth the memory.
-std::int64_t MostMissing(std::int32_t rate_hz)
-{
-    constexpr std::int64_t kHighestRate = 820510; // its block is the longest that the core takes
-    const std::int64_t rate = std::clamp<std::int64_t>(rate_hz, 0, kHighestRate);
-    return std::int64_t{2} * kBlocksPerChunk * (rate * 220 / 22050 + 1);
-}
-
 template <class T> void Shape(Array<T>& array, const FrameRange& range)
 {
     if (range.Channels() == 1)
@@ -64,7 +55,7 @@ public:
         const std::int64_t there =
             std::max<std::int64_t>(FileLength(file_.Number()) - range.Position() + 1, 0);
         if (range.Elements() - there / std::int64_t{sizeof(Raw)} >
-            MostMissing(range.info.nSamplesPerSec))
+            MostMissingValues(range.info.nSamplesPerSec))
             Raise(ErrorNumber::OutOfMemory, file_name);
         SeekTo(file_.Number(), range.Position());
     }

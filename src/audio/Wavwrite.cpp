@@ -15,6 +15,7 @@
 #include <array>
 #include <cmath>
 #include <span>
+#include <vector>
 
 namespace lumora {
 
@@ -126,77 +127,49 @@ double StepOf(std::int16_t bits)
     return bits == 8 ? 1.0 / 128.0 : bits == 16 ? 1.0 / 32768.0 : 0.0;
 }
 
-/// All samples as numbers of the file, in its order.
-template <class Raw> Array<Raw> NumbersOf(const Signal& signal, const PeakRule& rule)
+/// All samples as numbers of the file, in its order, piece by piece: no second signal in memory.
+template <class Raw, class Take>
+void ForEachPiece(const Signal& signal, const PeakRule& rule, Take&& take)
 {
     const std::span<const double> samples = signal.Samples();
     const std::size_t channels =
         signal.ByFrames() ? 1 : static_cast<std::size_t>(signal.Channels());
     const std::size_t length = samples.size() / channels;
-    Array<Raw> numbers;
-    numbers.ReDimForOverwrite({1, std::ssize(samples)});
-    // Pieces that stay in the nearest cache from step to step.
-    std::array<double, 1024> fitted;
-    std::array<Raw, fitted.size()> piece;
-    for (std::size_t from = 0; from < length; from += fitted.size()) {
-        const std::size_t n = std::min(fitted.size(), length - from);
+    // A few kilobytes stay in the nearest cache from step to step.
+    const std::size_t most = std::max<std::size_t>(4096 / channels, 64);
+    std::vector<double> fitted(most);
+    std::vector<Raw> numbers(most);
+    std::vector<Raw> frames(most * channels);
+    for (std::size_t from = 0; from < length; from += most) {
+        const std::size_t n = std::min(most, length - from);
         for (std::size_t c = 0; c < channels; ++c) {
             std::copy_n(samples.begin() + static_cast<std::ptrdiff_t>(c * length + from), n,
                         fitted.begin());
             rule.Apply(std::span(fitted).first(n));
-            Convert(std::span<const double>(fitted).first(n), std::span(piece).first(n));
-            PutChannel(piece.data(), n, channels, numbers.Span().data() + from * channels + c);
+            Convert(std::span<const double>(fitted).first(n), std::span(numbers).first(n));
+            PutChannel(numbers.data(), n, channels, frames.data() + c);
         }
+        take(std::span<const Raw>(frames).first(n * channels));
     }
-    return numbers;
 }
 
-struct Header {
-    std::int32_t riff_bytes;
-    PcmFields format;
-    std::int32_t data_bytes;
-    bool padded; ///< chunks have even lengths: a zero follows odd data, and the RIFF size counts it
-};
-
-/// Error 6 for a field that does not fit.
-Header HeaderOf(const Signal& signal, const Target& target, std::int64_t sample_bytes)
-{
-    const std::int64_t data_bytes = std::ssize(signal.Samples()) * sample_bytes;
-    const bool padded = data_bytes % 2 != 0;
-    const std::int16_t frame_bytes = CInt(signal.Channels() * sample_bytes);
-    return {CLng(data_bytes + 36 + (padded ? 1 : 0)),
-            {CInt(signal.Channels()), target.rate_hz,
-             CLng(std::int64_t{target.rate_hz} * frame_bytes), frame_bytes, target.bits},
-            CLng(data_bytes),
-            padded};
-}
-
-void Put(FileNumber file, const Header& header)
-{
-    PutId(file, "RIFF");
-    PutLong(file, header.riff_bytes);
-    PutId(file, "WAVE");
-    PutId(file, "fmt ");
-    PutLong(file, 16);
-    PutPcmFields(file, header.format);
-    PutId(file, "data");
-    PutLong(file, header.data_bytes);
-}
-
-/// Every number is worked out before the file is opened, so that a sample which does not fit costs
-/// nobody an older file of that name.
+/// Every number is worked out before the file is opened, and then once more for writing, so that a
+/// sample which does not fit costs nobody an older file of that name.
 template <class Raw>
 bool WriteWave(const Signal& signal, const Target& target, const PeakRule& rule)
 {
-    const Header header = HeaderOf(signal, target, std::int64_t{sizeof(Raw)});
-    const Array<Raw> numbers = NumbersOf<Raw>(signal, rule);
+    const PlainHeader header = PlainHeaderFor(std::ssize(signal.Samples()), signal.Channels(),
+                                              target.rate_hz, target.bits);
+    ForEachPiece<Raw>(signal, rule, [](std::span<const Raw>) {});
     OpenFile file(fopen(target.name, "wb"));
     if (file.Failed()) {
         ShowFileError(kFopen, kNoOutput);
         return false;
     }
-    Put(file.Number(), header);
-    WriteValues(file.Number(), numbers.Span());
+    PutPlainHeader(file.Number(), header);
+    ForEachPiece<Raw>(signal, rule, [&file](std::span<const Raw> numbers) {
+        WriteValues(file.Number(), numbers);
+    });
     if (header.padded) fwrite(file.Number(), std::uint8_t{0}, "uchar");
     fwrite(file.Number(), target.extra, "_string");
     file.Close();

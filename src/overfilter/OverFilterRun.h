@@ -1,0 +1,79 @@
+#pragma once
+
+#include "audio/WaveRecords.h"
+#include "base/Array.h"
+#include "base/ByteStream.h"
+#include "base/Progress.h"
+#include "overfilter/ClsRemoveOverPolynom.h"
+#include "overfilter/DitherNoise.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace lumora {
+
+/// What a run of the over-range filter calls on its way. Everything may be empty.
+struct OverFilterHooks {
+    ProgressBar* Bar = nullptr; ///< 0..whole seconds + 2
+    /// Lets the program handle what has come up; called after every second of sound and at the end.
+    std::function<void()> PumpEvents = {};
+    /// Asked after every whole second of sound; true ends the run with nothing left behind.
+    std::function<bool()> CancelRequested = {};
+    /// Uniform random numbers in 0..1 for the dither of digital silence. Empty: DitherNoise from
+    /// its own seed, the same for every run.
+    std::function<double()> Random = {};
+    RegionObserver OnRegion = {};
+};
+
+/// Takes the samples that have left the filter, interleaved, a block a call.
+using SampleSink = std::function<void(std::span<const double>)>;
+
+/// One WAVE file through the filter, in blocks of one second. Memory does not grow with its length.
+class OverFilterRun {
+public:
+    /// Reads the header and sets the filter up. Errors: 9 (no samples; another width than 8 or 16
+    /// bits; a rate below 919 Hz), 6 (a rate above 2.46 MHz), 7 (the file lacks more than 1.45
+    /// seconds of what its header promises), those of ReadWaveInfo.
+    OverFilterRun(const std::string& source, const OverFilterHooks& hooks);
+
+    /// False if there is no source or its header is faulty; a message has told so.
+    bool HasSource() const { return has_source_; }
+    const WaveInfo& Info() const { return info_; }
+    /// 1, or 2 for anything else: of more channels the first two are taken.
+    std::int32_t Channels() const { return channels_; }
+    const ClsRemoveOverPolynom& Filter() const { return filter_; }
+
+    /// All samples of the file. False if the run was cancelled. QualityFlag follows the filter's
+    /// after every block until that is 0. Bytes that the file promises but does not hold are zero.
+    bool Run(const SampleSink& sink, std::int16_t& QualityFlag);
+    /// `count` more samples of silence.
+    void FeedSilence(std::size_t count, const SampleSink& sink);
+    /// Shows the end of the run and releases the filter's arrays.
+    void Finish();
+
+private:
+    void CheckPromise() const;
+    void FilterRange(std::int64_t first_frame, std::int64_t frames, const SampleSink& sink);
+    void Read(std::int64_t first_frame, std::span<double> samples);
+    template <class Raw>
+    void ReadAs(Array<Raw>& raw, std::int64_t first_frame, std::span<double> samples);
+    void Dither(std::span<double> samples);
+    void Pump() const;
+
+    const OverFilterHooks& hooks_;
+    DitherNoise own_noise_;
+    WaveInfo info_;
+    bool has_source_ = false;
+    std::int32_t channels_ = 0;
+    std::unique_ptr<OpenFile> file_;
+    ClsRemoveOverPolynom filter_;
+    Array<std::uint8_t> bytes_;
+    Array<std::int16_t> shorts_;
+    std::vector<double> block_;
+};
+
+} // namespace lumora

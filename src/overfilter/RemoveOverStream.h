@@ -1,0 +1,40 @@
+#pragma once
+
+#include "overfilter/OverFilterRun.h"
+
+#include <cstdint>
+#include <string>
+
+namespace lumora {
+
+enum class OverFilterLength {
+    AsTold, ///< BufferLen - 1 interleaved zeros first; as many samples of the source never come out
+    Kept,   ///< without these zeros and with silence fed at the end: aligned with the source
+};
+
+struct OverFilterReport {
+    enum class End {
+        Complete,
+        Cancelled,
+        Failed, ///< a message has told why
+    };
+    End end = End::Failed;
+    std::int16_t QualityGood = 0;
+    std::int16_t BufferLen = 0; ///< in interleaved samples; the delay is one less
+    OverFilterFigures figures;
+};
+
+/// RemoveOverFile with memory that does not grow with the length: each second of sound is written
+/// when it has left the filter, the header last, when all its sizes are true. The target gets the
+/// bytes of RemoveOverFile's result; only a sound of one or two frames differs, which has here the
+/// channels of its source. An ordinary file of the target's name is replaced. After a cancel, a
+/// message or an error there is no target.
+///
+/// Messages: those of ReadWaveInfo, and " Cannot open  WAV file for output." under "Error using
+/// fopen.". Errors: 75 where the target is the source; those of OverFilterRun; 61, 70, 75 while
+/// writing.
+OverFilterReport RemoveOverStream(const std::string& SourcePath, const std::string& TargetPath,
+                                  OverFilterLength Length = OverFilterLength::AsTold,
+                                  const OverFilterHooks& Hooks = {});
+
+} // namespace lumora
