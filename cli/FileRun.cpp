@@ -104,14 +104,14 @@ private:
 
     static void Print(const FileJob& job, const JobOutcome& outcome)
     {
-        const std::string file = NameText(job.input);
+        const std::string file = NameText(job.input) + ": ";
         for (const std::string& note : outcome.notes)
-            PrintError(file + ": " + note);
+            PrintError(file + note);
         if (outcome.error.empty())
-            PrintText(file + " -> " + NameText(job.output.Name()) + ": " + outcome.summary->line +
-                      "\n");
+            PrintText(NameText(job.input) + " -> " + NameText(job.output.Name()) + ": " +
+                      outcome.summary->line + "\n");
         else
-            PrintError(file + ": " + outcome.error);
+            PrintError(file + outcome.error);
     }
 
     void PrintDocument() const

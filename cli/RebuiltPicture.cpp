@@ -18,16 +18,15 @@ constexpr double kMargin = 20.0;
 constexpr double kSmall = 13.0;
 constexpr double kLimit = 0.8;
 
-// Blue and orange, pale and strong: told apart by lightness too.
-constexpr std::array<Colour, 2> kStrong = {{{0.0, 0.36, 0.64}, {0.78, 0.29, 0.0}}};
-constexpr std::array<Colour, 2> kPale = {{{0.60, 0.80, 0.96}, {0.99, 0.76, 0.55}}};
+// Of the channels, blue and orange; pale and wide before, dark and narrow after. So they are told
+// apart by lightness too, and where curves are alike the one below shows beside the one above.
+constexpr std::array<Pen, 2> kBefore = {{{{0.60, 0.80, 0.96}, 6.5}, {{0.99, 0.76, 0.55}, 4.2}}};
+constexpr std::array<Pen, 2> kAfter = {{{{0.0, 0.36, 0.64}, 2.4}, {{0.78, 0.29, 0.0}, 1.1}}};
 constexpr Colour kBand = {0.94, 0.94, 0.90};
 constexpr Pen kLimitPen = {{0.35, 0.35, 0.35}, 1.0, true};
 constexpr Pen kFullPen = {{0.35, 0.35, 0.35}, 1.0, false};
 constexpr Pen kZeroPen = {{0.85, 0.85, 0.85}, 1.0, false};
 constexpr Pen kFramePen = {{0.2, 0.2, 0.2}, 1.0, false};
-constexpr double kBeforeWidth = 4.5;
-constexpr double kAfterWidth = 1.6;
 
 /// The smallest of 1, 2, 5, 10, 20, ... tenths that cuts a range into no more than `most` steps.
 double NiceStep(double range, int most)
@@ -70,10 +69,11 @@ public:
         DrawLevels(canvas);
         DrawTimes(canvas);
         canvas.Clip(plot_);
-        for (std::int32_t c = 0; c < caption_.channels; ++c)
-            DrawCurve(canvas, panel_.before, c, {kPale[static_cast<std::size_t>(c)], kBeforeWidth});
-        for (std::int32_t c = 0; c < caption_.channels; ++c)
-            DrawCurve(canvas, panel_.after, c, {kStrong[static_cast<std::size_t>(c)], kAfterWidth});
+        const auto channels = static_cast<std::size_t>(caption_.channels);
+        for (std::size_t c = 0; c < channels; ++c)
+            DrawCurve(canvas, panel_.before, c, kBefore[c]);
+        for (std::size_t c = 0; c < channels; ++c)
+            DrawCurve(canvas, panel_.after, c, kAfter[c]);
         canvas.Unclip();
         canvas.Frame(plot_, kFramePen);
     }
@@ -161,12 +161,13 @@ private:
                     "time in ms from the first rebuilt sample", kSmall, Align::Centre);
     }
 
-    void DrawCurve(Canvas& canvas, const std::vector<double>& samples, std::int32_t channel,
+    void DrawCurve(Canvas& canvas, const std::vector<double>& samples, std::size_t channel,
                    const Pen& pen) const
     {
+        const auto channels = static_cast<std::size_t>(caption_.channels);
         std::vector<Point> points;
         for (std::size_t k = 0; k < samples.size(); ++k)
-            if ((panel_.first - 1 + static_cast<std::int64_t>(k)) % caption_.channels == channel)
+            if ((static_cast<std::size_t>(panel_.first - 1) + k) % channels == channel)
                 points.push_back({X(Ms(FrameOf(k))), Y(samples[k])});
         canvas.Line(points, pen);
     }
@@ -194,8 +195,8 @@ void DrawLegend(Canvas& canvas, std::int32_t channels, double y)
     const std::array<std::string, 2> sides = {channels == 1 ? "" : ", left", ", right"};
     double x = kMargin;
     for (std::size_t c = 0; c < static_cast<std::size_t>(channels); ++c) {
-        x = DrawKey(canvas, x, y, {kPale[c], kBeforeWidth}, "before" + sides[c]);
-        x = DrawKey(canvas, x, y, {kStrong[c], kAfterWidth}, "after" + sides[c]);
+        x = DrawKey(canvas, x, y, kBefore[c], "before" + sides[c]);
+        x = DrawKey(canvas, x, y, kAfter[c], "after" + sides[c]);
     }
     x = DrawKey(canvas, x, y, {kBand, kSmall}, "rebuilt");
     x = DrawKey(canvas, x, y, kLimitPen, "limits of the filter, ±0.8");
@@ -234,8 +235,9 @@ void DrawRebuilt(const RebuiltPanels& rebuilt, const RebuiltCaption& caption,
 
     const double cell_width = room / static_cast<double>(columns);
     for (std::size_t k = 0; k < panels.size(); ++k) {
-        const double left = kMargin + static_cast<double>(k % columns) * cell_width;
-        const double top = kHeader + static_cast<double>(k / columns) * kCellHeight;
+        const std::size_t row = k / columns;
+        const double left = kMargin + static_cast<double>(k - row * columns) * cell_width;
+        const double top = kHeader + static_cast<double>(row) * kCellHeight;
         const Box cell = {left, top, left + cell_width, top + kCellHeight};
         PanelView(panels[k], caption, cell).Draw(canvas);
     }
