@@ -1,6 +1,7 @@
 #include "cli/Command.h"
 
 #include "cli/ArrCommand.h"
+#include "cli/DeclipCommand.h"
 #include "cli/InfoCommand.h"
 #include "cli/PitchCommand.h"
 #include "cli/StandardOutput.h"
@@ -19,6 +20,10 @@ constexpr int kWrongUsage = 2;
 int Run(const PitchRequest& request)
 {
     return RunPitchCommand(request);
+}
+int Run(const DeclipRequest& request)
+{
+    return RunDeclipCommand(request);
 }
 int Run(const InfoRequest& request)
 {

@@ -1,10 +1,11 @@
 #include "cli/CommandLine.h"
 
+#include "cli/HelpText.h"
 #include "cli/UsageError.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
+#include <cctype>
+#include <filesystem>
 #include <iterator>
 #include <memory>
 #include <utility>
@@ -36,50 +37,6 @@ constexpr std::pair<const char*, ArrClass> kArrClasses[] = {{"matrix", ArrClass:
                                                             {"string", ArrClass::String},
                                                             {"complex", ArrClass::Complex}};
 
-constexpr char kPitchFooter[] = R"(
-IN is any sound file with one or two channels; what is not a plain 8- or 16-bit
-WAVE file is converted first. OUT is a 16-bit WAVE file, at most 10 ms shorter.
-
-  lumora pitch song.wav higher.wav --tones +1/8
-  lumora pitch *.flac --out-dir lower --tones -2-3/8 --jobs 4)";
-
-constexpr char kArrFooter[] = R"(
-FILE is a matrix file (.arr), CSV a table of comma-separated cells in UTF-8.
-
-  lumora arr show keys.arr
-  lumora arr to-csv keys.arr keys.csv
-  lumora arr from-csv keys.csv keys.arr --as string)";
-
-/// The help of each command with a usage line that says how the files are told apart.
-class HelpText : public CLI::Formatter {
-public:
-    HelpText() { column_width(24); }
-
-    std::string make_usage(const CLI::App* app, std::string) const override
-    {
-        if (app->get_name() == "pitch")
-            return "Usage: lumora pitch IN OUT SETTING [OPTIONS]\n"
-                   "       lumora pitch IN... --out-dir DIR SETTING [OPTIONS]\n";
-        if (app->get_name() == "info") return "Usage: lumora info FILE... [OPTIONS]\n";
-        if (app->get_name() == "arr")
-            return "Usage: lumora arr show FILE [OPTIONS]\n"
-                   "       lumora arr to-csv FILE [CSV] [OPTIONS]\n"
-                   "       lumora arr from-csv CSV FILE --as CLASS [OPTIONS]\n";
-        return "Usage: lumora pitch | info | arr | help ...\n";
-    }
-
-    /// One blank line between paragraphs, none at the end.
-    std::string make_help(const CLI::App* app, std::string name,
-                          CLI::AppFormatMode mode) const override
-    {
-        std::string text = CLI::Formatter::make_help(app, std::move(name), mode);
-        for (std::size_t gap = 0; (gap = text.find("\n\n\n")) != std::string::npos;)
-            text.erase(gap, 1);
-        if (text.ends_with("\n\n")) text.pop_back();
-        return text;
-    }
-};
-
 /// The command line's grammar, and where its values go.
 class Grammar {
 public:
@@ -87,6 +44,7 @@ public:
     {
         app_.formatter(std::make_shared<HelpText>()); // the commands take it over when added
         pitch_ = app_.add_subcommand("pitch", "Change the pitch of sound files");
+        declip_ = app_.add_subcommand("declip", "Rebuild over-driven stretches of sound files");
         info_ = app_.add_subcommand("info", "Tell what is in sound files");
         arr_ = app_.add_subcommand("arr", "Show matrix files, and turn them into tables and back");
         help_ = app_.add_subcommand("help", "Explain a command");
@@ -95,9 +53,10 @@ public:
         app_.require_subcommand(1);
         app_.footer("\nlumora help COMMAND and the man page tell more.");
         AddPitch();
+        AddDeclip();
         AddInfo();
         AddArr();
-        help_->add_option("COMMAND", topic_, "The command to explain: pitch, info or arr")
+        help_->add_option("COMMAND", topic_, "The command to explain: pitch, declip, info or arr")
             ->type_name("");
     }
 
@@ -111,8 +70,7 @@ public:
         } catch (const CLI::CallForVersion& version) {
             return HelpRequest{version.what() + std::string("\n")};
         } catch (const CLI::RequiredError&) {
-            throw UsageError(
-                "say what to do: lumora pitch, lumora info, lumora arr or lumora help");
+            throw UsageError("say what to do: lumora pitch, declip, info, arr or help");
         } catch (const CLI::ParseError& error) {
             throw UsageError(error.what());
         }
@@ -121,29 +79,46 @@ public:
         if (*help_) return Help();
         if (*info_) return Info();
         if (*arr_) return Arr();
+        if (*declip_) return Declip();
         return Pitch();
     }
 
 private:
     void AddPitch()
     {
-        pitch_->add_option("FILE", files_, "IN and OUT, or every IN with --out-dir")->type_name("");
         for (const SettingOption& setting : kSettings)
             pitch_->add_option(setting.name)
                 ->description(setting.text)
                 ->type_name(setting.unit)
                 ->expected(1)
                 ->group("Setting (one of them)");
-        pitch_->add_option("--out-dir", pitch_request_.folder)
+        AddFilesOptions(*pitch_, pitch_request_.files);
+        pitch_->footer(kPitchFooter);
+    }
+
+    void AddDeclip()
+    {
+        declip_->add_flag("--keep-length", declip_request_.keep_length,
+                          "Put back the filter's delay: OUT as long as IN");
+        declip_->add_option("--plot", declip_request_.files.picture)
+            ->description("Draw the first rebuilt stretches of one IN: .png or .svg")
+            ->type_name("FILE");
+        AddFilesOptions(*declip_, declip_request_.files);
+        declip_->footer(kDeclipFooter);
+    }
+
+    void AddFilesOptions(CLI::App& command, FilesRequest& request)
+    {
+        command.add_option("FILE", files_, "IN and OUT, or every IN with --out-dir")->type_name("");
+        command.add_option("--out-dir", request.folder)
             ->description("Folder for the results, made if missing")
             ->type_name("DIR");
-        pitch_->add_option("--jobs", pitch_request_.jobs, "Files worked on side by side (1)")
+        command.add_option("--jobs", request.jobs, "Files worked on side by side (1)")
             ->type_name("N")
             ->check(CLI::Range(std::size_t{1}, kMostJobs).description(""));
-        pitch_->add_flag("--force", pitch_request_.force, "Replace files that exist already");
-        pitch_->add_flag("--json", pitch_request_.json, "Print the results as JSON");
-        pitch_->set_help_flag("-h,--help", "Print this help");
-        pitch_->footer(kPitchFooter);
+        command.add_flag("--force", request.force, "Replace files that exist already");
+        command.add_flag("--json", request.json, "Print the results as JSON");
+        command.set_help_flag("-h,--help", "Print this help");
     }
 
     void AddInfo()
@@ -171,9 +146,11 @@ private:
         app_.clear(); // a parser that has met a command explains only that one
         if (topic_.empty()) return HelpRequest{app_.help()};
         if (topic_ == "pitch") return HelpRequest{pitch_->help()};
+        if (topic_ == "declip") return HelpRequest{declip_->help()};
         if (topic_ == "info") return HelpRequest{info_->help()};
         if (topic_ == "arr") return HelpRequest{arr_->help()};
-        throw UsageError("there is no command " + topic_ + "; there are pitch, info and arr");
+        throw UsageError("there is no command " + topic_ +
+                         "; there are pitch, declip, info and arr");
     }
 
     Request Info()
@@ -213,18 +190,44 @@ private:
     Request Pitch()
     {
         pitch_request_.setting = Setting();
-        if (pitch_->count("--out-dir") != 0) {
-            if (pitch_request_.folder.empty()) throw UsageError("--out-dir needs a folder's name");
+        TakeNames(*pitch_, pitch_request_.files);
+        return pitch_request_;
+    }
+
+    Request Declip()
+    {
+        TakeNames(*declip_, declip_request_.files);
+        if (declip_->count("--plot") == 0) return declip_request_;
+        declip_request_.picture_kind = KindOfPicture(declip_request_.files.picture);
+        if (declip_request_.files.inputs.size() > 1)
+            throw UsageError("--plot draws one input; leave it out or name one input");
+        return declip_request_;
+    }
+
+    static PictureKind KindOfPicture(const std::string& name)
+    {
+        std::string ending = std::filesystem::path(name).extension();
+        std::transform(ending.begin(), ending.end(), ending.begin(),
+                       [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+        if (ending == ".png") return PictureKind::Png;
+        if (ending == ".svg") return PictureKind::Svg;
+        throw UsageError("--plot " + name + ": the name must end in .png or .svg");
+    }
+
+    /// Tells inputs and output apart.
+    void TakeNames(const CLI::App& command, FilesRequest& request)
+    {
+        if (command.count("--out-dir") != 0) {
+            if (request.folder.empty()) throw UsageError("--out-dir needs a folder's name");
             if (files_.empty()) throw UsageError("name the files to work on");
         } else {
             if (files_.size() > 2)
                 throw UsageError("several inputs need a folder for their results: --out-dir DIR");
             if (files_.size() < 2) throw UsageError("name an input and an output");
-            pitch_request_.output = files_.back();
+            request.output = files_.back();
             files_.pop_back();
         }
-        pitch_request_.inputs = files_;
-        return pitch_request_;
+        request.inputs = files_;
     }
 
     PitchSetting Setting() const
@@ -239,12 +242,14 @@ private:
 
     CLI::App app_{"Changes the pitch of recorded music in fine steps; its length stays.", "lumora"};
     CLI::App* pitch_ = nullptr;
+    CLI::App* declip_ = nullptr;
     CLI::App* info_ = nullptr;
     CLI::App* arr_ = nullptr;
     CLI::App* help_ = nullptr;
     std::vector<std::string> files_;
     std::string topic_;
     PitchRequest pitch_request_;
+    DeclipRequest declip_request_;
     InfoRequest info_request_;
     ArrRequest arr_request_;
     std::string class_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/Canvas.h"
 #include "cli/PitchSetting.h"
 
 #include <cstddef>
@@ -9,15 +10,28 @@
 
 namespace lumora {
 
-/// `lumora pitch`, as it was given.
-struct PitchRequest {
+/// What the commands that make sound files of sound files have in common, as it was given.
+struct FilesRequest {
     std::vector<std::string> inputs; ///< at least one
     std::string output;              ///< of the one input, unless there is a folder
     std::string folder;              ///< --out-dir; empty: not given
-    PitchSetting setting;
+    std::string picture;             ///< of the one input; empty: not wanted
     std::size_t jobs = 1;
     bool force = false;
     bool json = false;
+};
+
+/// `lumora pitch`, as it was given.
+struct PitchRequest {
+    FilesRequest files;
+    PitchSetting setting;
+};
+
+/// `lumora declip`, as it was given.
+struct DeclipRequest {
+    FilesRequest files;
+    bool keep_length = false;
+    PictureKind picture_kind = PictureKind::Png;
 };
 
 /// `lumora info`, as it was given.
@@ -44,7 +58,7 @@ struct HelpRequest {
     std::string text;
 };
 
-using Request = std::variant<PitchRequest, InfoRequest, ArrRequest, HelpRequest>;
+using Request = std::variant<PitchRequest, DeclipRequest, InfoRequest, ArrRequest, HelpRequest>;
 
 /// What the words behind the command's name ask for. UsageError if that cannot be told.
 Request ReadCommandLine(std::vector<std::string> words);

@@ -15,7 +15,7 @@ int RunInfoCommand(const InfoRequest& request)
     nlohmann::ordered_json results = nlohmann::ordered_json::array();
     bool all_read = true;
     for (const std::string& file : request.files) {
-        const InfoReport report{file, CheckInput(file)};
+        const InfoReport report{file, CheckInput(file, kPitchLimits)};
         all_read = all_read && report.check.read;
         if (request.json)
             results.push_back(report.Json());

@@ -54,7 +54,8 @@ void TakeWhatEngineReads(InputCheck& check)
     const WaveInfo& header = check.outline.header;
     check.road = Road::Direct;
     check.read = true;
-    check.sound = {header.nSamplesPerSec, header.nChannels, header.TotalSamples};
+    check.sound = {header.nSamplesPerSec, header.nChannels, header.TotalSamples,
+                   header.nBitsPerSample / 8};
 }
 
 /// The frames that the file's header promises, where it is known to hold fewer.
@@ -68,27 +69,27 @@ std::int64_t SamplesPromised(const WaveOutline& outline, const SoundShape& sound
 }
 
 /// Why a sound that libsndfile reads cannot be worked on; empty if it can.
-std::string SoundFault(const InputCheck& check, bool length_known)
+std::string SoundFault(const InputCheck& check, const RunLimits& limits, bool length_known)
 {
-    if (!length_known) return LimitFaultButLength(check.sound);
+    if (!length_known) return LimitFaultButLength(limits, check.sound);
     if (check.sound.samples == 0 && check.outline.NeverCompleted())
         return std::string(kNeverCompleted) +
                ", so that it promises no sound; repair it first, for instance with sox "
                "--ignore-length IN OUT.wav";
-    return LimitFault(check.sound);
+    return LimitFault(limits, check.sound);
 }
 
-void TakeWhatLibraryReads(const std::string& path, InputCheck& check)
+void TakeWhatLibraryReads(const std::string& path, const RunLimits& limits, InputCheck& check)
 {
     try {
         const SoundFile file(path);
         check.road = Road::Converted;
         check.read = true;
         check.format = file.Format();
-        check.sound = {file.RateHz(), file.Channels(), file.Samples().value_or(0)};
+        check.sound = {file.RateHz(), file.Channels(), file.Samples().value_or(0), 2};
         check.samples_promised = SamplesPromised(check.outline, check.sound);
         if (!check.outline.IsWave()) check.reason = "it is " + check.format;
-        const std::string fault = SoundFault(check, file.Samples().has_value());
+        const std::string fault = SoundFault(check, limits, file.Samples().has_value());
         if (fault.empty()) return;
         check.road = Road::Refused;
         check.reason = fault;
@@ -101,7 +102,7 @@ void TakeWhatLibraryReads(const std::string& path, InputCheck& check)
 
 } // namespace
 
-InputCheck CheckInput(const std::string& path)
+InputCheck CheckInput(const std::string& path, const RunLimits& limits)
 {
     InputCheck check;
     check.reason = FileFault(path, "sound");
@@ -109,11 +110,11 @@ InputCheck CheckInput(const std::string& path)
     check.outline = ReadWaveOutline(path);
     check.reason = EngineFault(path, check.outline);
     if (!check.reason.empty()) {
-        TakeWhatLibraryReads(path, check);
+        TakeWhatLibraryReads(path, limits, check);
         return check;
     }
     TakeWhatEngineReads(check);
-    check.reason = LimitFault(check.sound);
+    check.reason = LimitFault(limits, check.sound);
     if (!check.reason.empty()) check.road = Road::Refused;
     return check;
 }

@@ -24,7 +24,8 @@ struct InputCheck {
     std::int64_t samples_promised = 0; ///< by a file that is cut short; else 0
 };
 
-/// Looks at a file. Never fails: what is wrong with it stands in the answer.
-InputCheck CheckInput(const std::string& path);
+/// Looks at a file to be worked on within `limits`. Never fails: what is wrong with it stands in
+/// the answer.
+InputCheck CheckInput(const std::string& path, const RunLimits& limits);
 
 } // namespace lumora

@@ -25,6 +25,12 @@ template <class T> T FromBytes(std::string_view bytes)
     return value;
 }
 
+JobSummary SummaryFrom(std::string_view bytes)
+{
+    const auto both = nlohmann::ordered_json::parse(bytes);
+    return {both.at(0), both.at(1)};
+}
+
 } // namespace
 
 void JobLink::Progress(double fraction)
@@ -40,9 +46,9 @@ void JobLink::Note(std::string_view text)
     Send(kNote, text);
 }
 
-void JobLink::Done(const PitchFigures& figures)
+void JobLink::Done(const JobSummary& summary)
 {
-    Send(kDone, AsBytes(figures));
+    Send(kDone, nlohmann::ordered_json::array({summary.line, summary.fields}).dump());
 }
 
 void JobLink::Failed(std::string_view error)
@@ -89,7 +95,7 @@ void JobListener::Take(char kind, std::string_view bytes,
     else if (kind == kNote)
         outcome.notes.emplace_back(bytes);
     else if (kind == kDone)
-        outcome.figures = FromBytes<PitchFigures>(bytes);
+        outcome.summary = SummaryFrom(bytes);
     else
         outcome.error = bytes;
 }

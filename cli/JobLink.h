@@ -18,7 +18,7 @@ public:
     /// The part that is done, 0 to 1. Steps too small to be seen are not sent.
     void Progress(double fraction);
     void Note(std::string_view text);
-    void Done(const PitchFigures& figures);
+    void Done(const JobSummary& summary);
     void Failed(std::string_view error);
 
 private:

@@ -96,6 +96,12 @@ void OutputFile::Prepare() const
     close(file);
 }
 
+bool OutputFile::IsThere() const
+{
+    std::error_code unreachable;
+    return fs::exists(result_, unreachable);
+}
+
 void OutputFile::Commit() const
 {
     int failure = 0;

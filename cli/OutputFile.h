@@ -26,6 +26,8 @@ public:
     std::string Fault(const std::string& folder_hint = {}) const;
     /// Makes the folder, where that is wanted, and an empty Result(). JobFailure if it cannot be.
     void Prepare() const;
+    /// Whether there is a Result().
+    bool IsThere() const;
     /// Gives Result() its final name, in one step. JobFailure if it cannot be, also where a file
     /// has appeared there that may not be replaced.
     void Commit() const;

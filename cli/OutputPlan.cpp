@@ -35,20 +35,18 @@ fs::path PlaceOf(const std::string& name)
     return unreachable ? fs::path(name) : place;
 }
 
-std::string OutputName(const PitchRequest& request, const std::string& input)
+std::string OutputName(const FilesRequest& request, const std::string& input)
 {
     if (request.folder.empty()) return request.output;
     return (fs::path(request.folder) / fs::path(input).stem()).string() + ".wav";
 }
 
-void RefuseInputs(const std::vector<OutputFile>& outputs, const std::vector<std::string>& inputs)
+void RefuseInput(const OutputFile& output, const std::set<FileId>& inputs)
 {
-    const std::set<FileId> taken = IdsOf(inputs);
-    for (const OutputFile& output : outputs)
-        for (const FileId& id : IdsOf({output.Target()}))
-            if (taken.contains(id))
-                throw UsageError(NameText(output.Name()) +
-                                 " is an input as well; give the result another name");
+    for (const FileId& id : IdsOf({output.Target()}))
+        if (inputs.contains(id))
+            throw UsageError(NameText(output.Name()) +
+                             " is an input as well; give the result another name");
 }
 
 void RefuseTwins(const std::vector<OutputFile>& outputs, const std::vector<std::string>& inputs)
@@ -64,18 +62,32 @@ void RefuseTwins(const std::vector<OutputFile>& outputs, const std::vector<std::
     }
 }
 
+void RefusePicture(const OutputFile& picture, const std::vector<OutputFile>& results)
+{
+    for (const OutputFile& result : results)
+        if (PlaceOf(result.Target()) == PlaceOf(picture.Target()))
+            throw UsageError("the result and the picture would both be " +
+                             NameText(picture.Name()) + "; give the picture another name");
+}
+
 } // namespace
 
-std::vector<OutputFile> PlanOutputs(const PitchRequest& request)
+OutputPlan PlanOutputs(const FilesRequest& request)
 {
     const Existing existing = request.force ? Existing::Replace : Existing::Keep;
     const Folder folder = request.folder.empty() ? Folder::MustExist : Folder::MakeIt;
-    std::vector<OutputFile> outputs;
+    const std::set<FileId> inputs = IdsOf(request.inputs);
+    OutputPlan plan;
     for (const std::string& input : request.inputs)
-        outputs.emplace_back(OutputName(request, input), existing, folder);
-    RefuseTwins(outputs, request.inputs);
-    RefuseInputs(outputs, request.inputs);
-    return outputs;
+        plan.results.emplace_back(OutputName(request, input), existing, folder);
+    RefuseTwins(plan.results, request.inputs);
+    for (const OutputFile& result : plan.results)
+        RefuseInput(result, inputs);
+    if (request.picture.empty()) return plan;
+    plan.picture.emplace(request.picture, existing, Folder::MustExist);
+    RefusePicture(*plan.picture, plan.results);
+    RefuseInput(*plan.picture, inputs);
+    return plan;
 }
 
 } // namespace lumora

@@ -1,7 +1,10 @@
 #include "cli/Wording.h"
 
+#include <nlohmann/json.hpp>
+
 #include <algorithm>
 #include <cctype>
+#include <cmath>
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
@@ -46,6 +49,16 @@ std::string CentsText(double cents)
     return text == "+0.00" || text == "-0.00" ? "0.00" : text;
 }
 
+double GainDb(double divisor)
+{
+    return 20.0 * std::log10(1.0 / divisor);
+}
+
+std::string GainText(double divisor)
+{
+    return Formatted("divided by up to %.3f (%.2f dB)", divisor, GainDb(divisor));
+}
+
 std::string NameText(const std::string& name)
 {
     std::string text = name;
@@ -53,6 +66,12 @@ std::string NameText(const std::string& name)
         text.begin(), text.end(),
         [](char c) { return std::iscntrl(static_cast<unsigned char>(c)) != 0; }, '?');
     return text;
+}
+
+std::string Utf8Text(const std::string& text)
+{
+    using nlohmann::json;
+    return json::parse(json(text).dump(-1, ' ', false, json::error_handler_t::replace));
 }
 
 std::string SystemText(int error_code)

@@ -11,8 +11,14 @@ std::string LengthText(std::int64_t samples, std::int32_t rate_hz);
 std::string SamplesText(std::int64_t samples, std::int32_t rate_hz);
 /// "+25.00", "-0.13", "0.00".
 std::string CentsText(double cents);
+/// The gain in dB of a division by `divisor`.
+double GainDb(double divisor);
+/// "divided by up to 1.250 (-1.94 dB)".
+std::string GainText(double divisor);
 /// A file's name on one line: control characters become "?".
 std::string NameText(const std::string& name);
+/// The text with U+FFFD for bytes that are no UTF-8.
+std::string Utf8Text(const std::string& text);
 /// The system's words for an error code, without a capital: "permission denied".
 std::string SystemText(int error_code);
 

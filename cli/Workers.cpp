@@ -105,7 +105,7 @@ void Workers::Listen(std::list<Worker>::iterator worker)
     close(worker->listener.Pipe());
     const int status = EndOf(worker->process);
     JobOutcome outcome = std::move(worker->listener.outcome);
-    if (!outcome.figures && outcome.error.empty()) outcome.error = CrashText(status);
+    if (!outcome.summary && outcome.error.empty()) outcome.error = CrashText(status);
     running_.erase(worker);
     on_end(job, outcome);
 }

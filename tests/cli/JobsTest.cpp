@@ -28,9 +28,11 @@ protected:
         WriteWithLibrary(inputs_.back(), SF_FORMAT_FLAC | SF_FORMAT_PCM_16, Tune(50000), 1, 32000);
     }
 
-    CommandResult Run(const std::string& out_dir, const Names& more = {}) const
+    CommandResult Run(const std::string& out_dir, const Names& more = {},
+                      const Names& command = {"pitch", "--tones", "+1/8"}) const
     {
-        Names words = {"pitch", "--tones", "+1/8", "--out-dir", folder_ / out_dir};
+        Names words = command;
+        words.insert(words.end(), {"--out-dir", folder_ / out_dir});
         words.insert(words.end(), inputs_.begin(), inputs_.end());
         words.insert(words.end(), more.begin(), more.end());
         return Lumora(words);
@@ -42,14 +44,16 @@ protected:
 
 TEST_F(Jobs, SideBySideGivesTheBytesOfOneAfterAnother)
 {
-    ASSERT_EQ(Run("one").status, 0);
-    ASSERT_EQ(Run("four", {"--jobs", "4"}).status, 0);
-    for (std::size_t k = 0; k < inputs_.size(); ++k) {
-        const std::string name = "in" + std::to_string(k) + ".wav";
-        EXPECT_TRUE(HoldsBytes(folder_ / ("four/" + name), BytesOf(folder_ / ("one/" + name))))
-            << name;
+    for (const Names& command : {Names{"pitch", "--tones", "+1/8"}, Names{"declip"}}) {
+        ASSERT_EQ(Run("one", {"--force"}, command).status, 0);
+        ASSERT_EQ(Run("four", {"--force", "--jobs", "4"}, command).status, 0);
+        for (std::size_t k = 0; k < inputs_.size(); ++k) {
+            const std::string name = "in" + std::to_string(k) + ".wav";
+            EXPECT_TRUE(HoldsBytes(folder_ / ("four/" + name), BytesOf(folder_ / ("one/" + name))))
+                << name;
+        }
+        EXPECT_EQ(NamesIn(folder_ / "four").size(), inputs_.size());
     }
-    EXPECT_EQ(NamesIn(folder_ / "four").size(), inputs_.size());
 }
 
 TEST_F(Jobs, AFilesResultDoesNotDependOnTheFilesBeforeIt)

@@ -30,6 +30,10 @@ protected:
     {
         return Lumora({"pitch", in, folder_ / "out.wav", "--tones", "1"}, around);
     }
+    CommandResult Declip(const std::string& in, const Surroundings& around = {}) const
+    {
+        return Lumora({"declip", in, folder_ / "out.wav", "--plot", folder_ / "out.png"}, around);
+    }
 
     TempFolder folder_;
 };
@@ -40,6 +44,17 @@ TEST_F(Limits, TheLowestAndTheHighestRateRun)
         const std::string in = folder_.Write("in.wav", TuneWave(20000, 1, rate_hz));
         EXPECT_EQ(Run(in).status, 0) << rate_hz;
         EXPECT_TRUE(HoldsBytes(folder_ / "out.wav", EngineResult(in, std::exp2(-1.0 / 6.0))));
+        fs::remove(folder_ / "out.wav");
+    }
+}
+
+TEST_F(Limits, TheLowestAndTheHighestRateRunThroughTheOverRangeFilter)
+{
+    for (const std::int32_t rate_hz : {919, 2463135}) {
+        const std::string in = folder_.Write("in.wav", TuneWave(20000, 1, rate_hz));
+        const CommandResult result = Declip(in);
+        EXPECT_EQ(result.status, 0) << rate_hz << result.err;
+        EXPECT_EQ(fs::file_size(folder_ / "out.wav"), 44U + 40000U);
         fs::remove(folder_ / "out.wav");
     }
 }
@@ -88,6 +103,10 @@ TEST_F(Limits, AnHourNeedsNoMoreMemoryThanAMinute)
         EXPECT_EQ(result.status, 0) << result.err;
         EXPECT_EQ(result.err.empty(), ahead.empty()) << result.err;
         EXPECT_EQ(fs::file_size(folder_ / "out.wav"), 58U + kHour);
+        fs::remove(folder_ / "out.wav");
+        const CommandResult filtered = Declip(in, {.before = small_memory});
+        EXPECT_EQ(filtered.status, 0) << filtered.err;
+        EXPECT_EQ(fs::file_size(folder_ / "out.wav"), 44U + kHour);
         fs::remove(folder_ / "out.wav");
     }
 }

@@ -36,8 +36,8 @@ std::string HelpOf(const Names& words)
 
 std::set<std::string> AllOptions()
 {
-    return OptionsIn(HelpOf({"--help"}) + HelpOf({"help", "pitch"}) + HelpOf({"help", "info"}) +
-                     HelpOf({"help", "arr"}));
+    return OptionsIn(HelpOf({"--help"}) + HelpOf({"help", "pitch"}) + HelpOf({"help", "declip"}) +
+                     HelpOf({"help", "info"}) + HelpOf({"help", "arr"}));
 }
 
 /// The man page as plain text on one endless line for each paragraph.
@@ -57,6 +57,7 @@ TEST(Help, IsTheSameByEveryRoad)
     EXPECT_EQ(HelpOf({"help"}), HelpOf({"--help"}));
     EXPECT_EQ(HelpOf({"help"}), HelpOf({"-h"}));
     EXPECT_EQ(HelpOf({"help", "pitch"}), HelpOf({"pitch", "--help"}));
+    EXPECT_EQ(HelpOf({"help", "declip"}), HelpOf({"declip", "--help"}));
     EXPECT_EQ(HelpOf({"help", "info"}), HelpOf({"info", "-h"}));
     EXPECT_EQ(HelpOf({"help", "arr"}), HelpOf({"arr", "--help"}));
     EXPECT_NE(HelpOf({"help", "pitch"}), HelpOf({"help", "info"}));
@@ -64,10 +65,11 @@ TEST(Help, IsTheSameByEveryRoad)
 
 TEST(Help, NamesTheCommandsAndHowToCallThem)
 {
-    for (const char* command : {"pitch", "info", "arr", "help"})
+    for (const char* command : {"pitch", "declip", "info", "arr", "help"})
         EXPECT_NE(HelpOf({"--help"}).find(std::string("\n  ") + command + " "), std::string::npos);
-    EXPECT_NE(HelpOf({"help", "pitch"}).find("lumora pitch IN... --out-dir DIR"),
-              std::string::npos);
+    for (const std::string command : {"pitch", "declip"})
+        EXPECT_NE(HelpOf({"help", command}).find("lumora " + command + " IN... --out-dir DIR"),
+                  std::string::npos);
 }
 
 TEST(Version, IsANumberOfThreeParts)
@@ -92,6 +94,7 @@ TEST(ManPage, NamesEveryFieldOfTheJson)
     const Surroundings there = {folder.Path().string()};
     const Names pitch = {"pitch", "good.wav", "x.wav", "--out-dir",
                          "out",   "--tones",  "1",     "--json"};
+    const Names declip = {"declip", "good.wav", "mended.wav", "--plot", "x.png", "--json"};
     const Names info = {"info", "good.wav", "list.wav", "x.wav", "--json"};
     folder.Write("z.csv", "1+i,2\n");
     const Names made = {"arr", "from-csv", "z.csv", "z.arr", "--as", "complex", "--json"};
@@ -108,10 +111,11 @@ TEST(ManPage, NamesEveryFieldOfTheJson)
         }
     };
     expect_told(expect_told, nlohmann::json::parse(Lumora(pitch, there).out));
+    expect_told(expect_told, nlohmann::json::parse(Lumora(declip, there).out));
     expect_told(expect_told, nlohmann::json::parse(Lumora(info, there).out));
     expect_told(expect_told, nlohmann::json::parse(Lumora(made, there).out));
     expect_told(expect_told, nlohmann::json::parse(Lumora(shown, there).out));
-    EXPECT_GT(fields, 75U);
+    EXPECT_GT(fields, 98U);
 }
 
 /// What bash offers for the last of these words.
@@ -135,15 +139,16 @@ std::set<std::string> Completions(const Names& words, const std::string& folder 
 
 TEST(Completion, OffersCommandsFirst)
 {
-    EXPECT_EQ(Completions({"lumora", ""}),
-              (std::set<std::string>{"pitch", "info", "arr", "help", "--help", "--version"}));
+    EXPECT_EQ(Completions({"lumora", ""}), (std::set<std::string>{"pitch", "declip", "info", "arr",
+                                                                  "help", "--help", "--version"}));
     EXPECT_EQ(Completions({"lumora", "p"}), std::set<std::string>{"pitch"});
-    EXPECT_EQ(Completions({"lumora", "help", ""}), (std::set<std::string>{"pitch", "info", "arr"}));
+    EXPECT_EQ(Completions({"lumora", "help", ""}),
+              (std::set<std::string>{"pitch", "declip", "info", "arr"}));
 }
 
 TEST(Completion, OffersExactlyTheOptionsOfTheHelp)
 {
-    for (const char* command : {"pitch", "info", "arr"}) {
+    for (const char* command : {"pitch", "declip", "info", "arr"}) {
         const std::string usage = HelpOf({"help", command});
         EXPECT_EQ(Completions({"lumora", command, "--"}), OptionsIn(usage)) << command;
     }
@@ -174,6 +179,8 @@ TEST(Completion, OffersFilesFoldersOrNothingAsTheOptionWants)
     EXPECT_EQ(Completions({"lumora", "info", "so"}, here), std::set<std::string>{"song.wav"});
     EXPECT_EQ(Completions({"lumora", "pitch", "--out-dir", ""}, here),
               std::set<std::string>{"results"});
+    EXPECT_EQ(Completions({"lumora", "declip", "--plot", "s"}, here),
+              std::set<std::string>{"song.wav"});
     EXPECT_EQ(Completions({"lumora", "pitch", "--tones", ""}, here), std::set<std::string>{});
 }
 

@@ -80,6 +80,16 @@ TEST_F(Progress, ATerminalShowsABarWithTheTimeLeftAndIsLeftClean)
     EXPECT_TRUE(std::regex_replace(drawn, bar, "") == "\r\x1b[K") << drawn;
 }
 
+TEST_F(Progress, IsDrawnWhileStretchesAreRebuiltToo)
+{
+    Terminal terminal;
+    const CommandResult result =
+        Lumora({"declip", in_, folder_ / "out.wav"},
+               {.before = [] { setenv("TERM", "xterm", 1); }, .standard_error = terminal.Screen()});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_NE(terminal.Drawn().find(" left"), std::string::npos);
+}
+
 TEST_F(Progress, IsDrawnWithJsonToo)
 {
     EXPECT_NE(Drawn("xterm", {"--json"}).find(" left"), std::string::npos);

@@ -40,7 +40,12 @@ protected:
         folder_.Write("short.wav", TuneWave(219));
         folder_.Write("slow.wav", TuneWave(5000, 1, 2205));
         folder_.Write("fast.wav", TuneWave(5000, 1, 820511));
+        folder_.Write("slowest.wav", TuneWave(5000, 1, 918));
+        folder_.Write("fastest.wav", TuneWave(5000, 1, 2463136));
+        folder_.Write("none.wav", PlainWave({}, ""));
         folder_.Write("many.wav", TuneWave(5000, 6));
+        folder_.Write("drawn.png", TuneWave(5000));
+        folder_.MakeFolder("folder.svg");
         folder_.MakeFolder("folder");
         folder_.MakeFolder("other");
         fs::create_hard_link(folder_ / "good.wav", folder_ / "twin.wav");
@@ -74,6 +79,14 @@ Refused Usage(Names words, const std::string& why)
 Refused BadFile(const std::string& name, const std::string& why)
 {
     return {{"pitch", name, "out.wav", "--tones", "1"}, 1, "lumora: " + name + ": " + why};
+}
+Refused BadSource(const std::string& name, const std::string& why)
+{
+    return {{"declip", name, "out.wav", "--plot", "out.png"}, 1, "lumora: " + name + ": " + why};
+}
+Refused BadPicture(const std::string& name, const std::string& why)
+{
+    return {{"declip", "good.wav", "out.wav", "--plot", name}, 1, name + " " + why};
 }
 Refused BadOutput(const std::string& name, const std::string& why)
 {
@@ -117,6 +130,20 @@ INSTANTIATE_TEST_SUITE_P(
         Usage({"pitch", "good.wav", "link.wav", "--tones", "1", "--force"}, "is an input as well"),
         Usage({"pitch", "copy.flac", "good.wav", "--out-dir", ".", "--tones", "1", "--force"},
               "is an input as well"),
+        Usage({"declip"}, "an input and an output"),
+        Usage({"declip", "good.wav"}, "an input and an output"),
+        Usage({"declip", "good.wav", "copy.flac", "out.wav"}, "--out-dir"),
+        Usage({"declip", "good.wav", "out.wav", "--tones", "1"}, "--tones"),
+        Usage({"declip", "good.wav", "good.wav", "--force"}, "is an input as well"),
+        Usage({"declip", "good.wav", "out.wav", "--plot"}, "--plot"),
+        Usage({"declip", "good.wav", "out.wav", "--plot", "out.jpg"}, "end in .png or .svg"),
+        Usage({"declip", "good.wav", "out.wav", "--plot", ""}, "end in .png or .svg"),
+        Usage({"declip", "good.wav", "copy.flac", "--out-dir", "other", "--plot", "out.png"},
+              "--plot draws one input"),
+        Usage({"declip", "good.wav", "out.png", "--plot", "folder/../out.png"},
+              "the result and the picture would both be"),
+        Usage({"declip", "drawn.png", "out.wav", "--plot", "./drawn.png", "--force"},
+              "is an input as well"),
         Usage({"info"}, "name the files"), Usage({"info", "--tones", "1", "good.wav"}, "--tones")));
 
 INSTANTIATE_TEST_SUITE_P(
@@ -131,7 +158,13 @@ INSTANTIATE_TEST_SUITE_P(
                              "(9.98 ms), one block, are needed"),
         BadFile("slow.wav", "its rate is 2205 Hz, and 2206 to 820510 Hz can be worked on"),
         BadFile("fast.wav", "its rate is 820511 Hz, and 2206 to 820510 Hz can be worked on"),
-        BadFile("many.wav", "it has 6 channels, and 1 or 2 can be worked on")));
+        BadFile("many.wav", "it has 6 channels, and 1 or 2 can be worked on"),
+        BadSource("missing.wav", "there is no such file"), BadSource("folder", "is a folder"),
+        BadSource("empty.wav", "is empty"), BadSource("text.wav", "cannot be read as sound"),
+        BadSource("none.wav", "there is not a single sample in it"),
+        BadSource("slowest.wav", "its rate is 918 Hz, and 919 to 2463135 Hz can be worked on"),
+        BadSource("fastest.wav", "its rate is 2463136 Hz, and 919 to 2463135 Hz can be worked on"),
+        BadSource("many.wav", "it has 6 channels, and 1 or 2 can be worked on")));
 
 INSTANTIATE_TEST_SUITE_P(
     BadOutput, Refusal,
@@ -144,6 +177,10 @@ INSTANTIATE_TEST_SUITE_P(
         BadOutput("nowhere/out.wav", "cannot be written: there is no folder nowhere"),
         BadOutput("good.wav/out.wav", "cannot be written (not a directory)"),
         BadOutput("newname/", "is not the name of a file"),
+        BadPicture("drawn.png", "exists already; give another name, or --force"),
+        BadPicture("folder.svg", "is a folder"),
+        BadPicture("nowhere/out.png", "cannot be written: there is no folder nowhere"),
+        Refused{{"declip", "good.wav", "old.wav"}, 1, "old.wav exists already"},
         Refused{{"pitch", "good.wav", "folder", "--tones", "1", "--force"}, 1, "is a folder"},
         Refused{
             {"pitch", "good.wav", "--out-dir", "old.wav", "--tones", "1"}, 1, "not a directory"}));

@@ -56,6 +56,10 @@ protected:
     {
         return LumoraWords({"pitch", in_, folder_ / "out.wav", "--tones", "1", "--force"});
     }
+    std::vector<std::string> DeclipWords() const
+    {
+        return LumoraWords({"declip", in_, folder_ / "out.wav", "--plot", folder_ / "out.png"});
+    }
 
     TempFolder folder_;
     std::string in_;
@@ -82,6 +86,15 @@ TEST_F(Stop, ControlCReachesTheWholeGroupAndLeavesNoPartialFile)
     RunningCommand command(Words(), {.before = [] { setpgid(0, 0); }});
     AwaitWork();
     command.SignalGroup(SIGINT);
+    EXPECT_EQ(command.Wait().status, 128 + SIGINT);
+    EXPECT_EQ(NamesIn(folder_.Path()), Names{"in.wav"});
+}
+
+TEST_F(Stop, ControlCLeavesNeitherAResultNorAPicture)
+{
+    RunningCommand command(DeclipWords());
+    AwaitWork();
+    command.Signal(SIGINT);
     EXPECT_EQ(command.Wait().status, 128 + SIGINT);
     EXPECT_EQ(NamesIn(folder_.Path()), Names{"in.wav"});
 }
@@ -167,13 +180,14 @@ TEST_F(Stop, ALimitOnFileSizesIsAClearLine)
         const rlimit small = {100000, 100000};
         setrlimit(RLIMIT_FSIZE, &small);
     };
-    const CommandResult result =
-        Lumora({"pitch", in_, folder_ / "out.wav", "--tones", "1"}, {.before = limit});
-    EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.err, "lumora: " + in_ +
-                              ": the result does not fit: the disk is full or a limit on file "
-                              "sizes is reached; make room and run it again\n");
-    EXPECT_EQ(NamesIn(folder_.Path()), Names{"in.wav"});
+    for (const auto& words : {Words(), DeclipWords()}) {
+        const CommandResult result = RunningCommand(words, {.before = limit}).Wait();
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(result.err, "lumora: " + in_ +
+                                  ": the result does not fit: the disk is full or a limit on file "
+                                  "sizes is reached; make room and run it again\n");
+        EXPECT_EQ(NamesIn(folder_.Path()), Names{"in.wav"});
+    }
 }
 
 } // namespace

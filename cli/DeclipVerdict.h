@@ -1,0 +1,19 @@
+#pragma once
+
+#include "cli/JobOutcome.h"
+#include "cli/RunLimits.h"
+#include "overfilter/RemoveOverStream.h"
+
+namespace lumora {
+
+/// What is told of a file that went through the over-range filter: how good the result is, what was
+/// rebuilt, what was left and why, and how much quieter the result is.
+JobSummary DeclipVerdict(const OverFilterReport& report, const SoundShape& sound,
+                         OverFilterLength length);
+
+/// Samples of a stereo file change sides: the filter delays the interleaved stream by an odd number
+/// of them.
+bool ExchangesChannels(const OverFilterReport& report, const SoundShape& sound,
+                       OverFilterLength length);
+
+} // namespace lumora
