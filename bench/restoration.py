@@ -24,9 +24,9 @@ NOISE = 0.003  # of the peak: without it nothing would be easier to predict
 THRESHOLDS = (1, 2, 5, 20, 50)  # of adeclip, whose default is 10
 
 
-def tones(rate):
+def tones(rate, seed=1):
     """Notes of four to ten harmonics that swell and fade, two at a time."""
-    chance = random.Random(1)
+    chance = random.Random(seed)
     sound = [0.0] * (rate * SECONDS)
     for start in range(0, 4 * SECONDS):
         note = 110.0 * 2 ** (chance.choice((0, 3, 5, 7, 10, 12, 15, 19)) / 12)
@@ -39,6 +39,11 @@ def tones(rate):
             sound[start * rate // 4 + i] += swell * sum(
                 level * math.sin(k * turn + phase) for k, level, phase in partials)
     return sound
+
+
+def two_sides(rate):
+    """Other tones on the left than on the right."""
+    return [x for frame in zip(tones(rate, 4), tones(rate, 5)) for x in frame]
 
 
 def speech(rate):
@@ -70,9 +75,9 @@ def speech(rate):
             for i, x in enumerate(sound)]
 
 
-def write(path, sound, rate):
+def write(path, sound, rate, channels):
     with wave.open(str(path), "wb") as file:
-        file.setparams((1, 2, rate, 0, "NONE", None))
+        file.setparams((channels, 2, rate, 0, "NONE", None))
         file.writeframes(array.array("h", (round(x * 32768) for x in sound)).tobytes())
 
 
@@ -107,13 +112,13 @@ def by_adeclip(path, options=""):
     return doubles(run.stdout)
 
 
-def row(program, folder, name, sound, rate, over):
+def row(program, folder, name, sound, rate, channels, over):
     peak = max(map(abs, sound))
     chance = random.Random(3)
     true = [(x / peak + chance.gauss(0, NOISE)) * LIMIT * 10 ** (over / 20) for x in sound]
     path = folder / "limited.wav"
     limited = [max(-LIMIT, min(LIMIT, x)) for x in true]
-    write(path, limited, rate)
+    write(path, limited, rate, channels)
     places = [i for i, x in enumerate(true) if abs(x) > LIMIT]
     made, curve_undone = by_filter(program, path)
     figures = [error_db(true, limited, places),
@@ -130,12 +135,14 @@ def main(program):
     print("| signal | limited | before | after, one gain | after, gain curve divided out | "
           "adeclip, defaults | adeclip, best threshold |\n|---|---:|---:|---:|---:|---:|---:|")
     with tempfile.TemporaryDirectory() as folder:
-        for name, make, rate in (("harmonic tones, 44.1 kHz", tones, 44100),
-                                 ("speech-like, 44.1 kHz", speech, 44100),
-                                 ("speech-like, 22.05 kHz", speech, 22050)):
+        for name, make, rate, channels in (
+                ("harmonic tones, 44.1 kHz", tones, 44100, 1),
+                ("other tones left than right, 44.1 kHz", two_sides, 44100, 2),
+                ("speech-like, 44.1 kHz", speech, 44100, 1),
+                ("speech-like, 22.05 kHz", speech, 22050, 1)):
             sound = make(rate)
             for over in (1, 3, 6, 10):
-                row(program, pathlib.Path(folder), name, sound, rate, over)
+                row(program, pathlib.Path(folder), name, sound, rate, channels, over)
 
 
 if __name__ == "__main__":
