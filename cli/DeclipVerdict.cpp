@@ -29,8 +29,9 @@ std::string LeftText(const OverFilterFigures& figures, const SoundShape& sound)
         why += (why.empty() ? "" : "; ") + std::to_string(figures.left_unpredicted) +
                " without usable coefficients: the sound around could not be predicted";
     if (why.empty()) return {};
-    return ", " + std::to_string(figures.left_too_long + figures.left_unpredicted) +
-           " left as they were (" + why + ")";
+    const std::int64_t left = figures.left_too_long + figures.left_unpredicted;
+    return ", " + std::to_string(left) + " left as " + (left == 1 ? "it was" : "they were") + " (" +
+           why + ")";
 }
 
 std::string Line(const OverFilterReport& report, const SoundShape& sound)

@@ -168,7 +168,7 @@ TEST_F(DeclipCommand, SaysWhatWasTooLongAndHowLongItMayBe)
     folder_.Write("in.wav", WaveOf(WithPlateau(Tune(44100), 20000, 100)));
     // 100 of the 293 samples that the filter looks at are more than 15 % too.
     EXPECT_EQ(Told(Run({"in.wav", "out.wav"})),
-              "in.wav -> out.wav: 2.000 s, low quality: 0 regions rebuilt, 1 left as they were (1 "
+              "in.wav -> out.wav: 2.000 s, low quality: 0 regions rebuilt, 1 left as it was (1 "
               "too long: at this rate a region may last 73 samples (3.31 ms)), 1 region in places "
               "where more than 15 % of the samples are over-driven, the longest of 100 samples "
               "(4.54 ms), level unchanged");
@@ -179,7 +179,7 @@ TEST_F(DeclipCommand, SaysWhatCouldNotBePredicted)
     // The lags of a constant are all alike, so nothing can be solved for.
     folder_.Write("in.wav", WaveOf(WithPlateau(Shorts(44100, 16384), 20000, 5)));
     EXPECT_EQ(Told(Run({"in.wav", "out.wav"})),
-              "in.wav -> out.wav: 2.000 s, low quality: 0 regions rebuilt, 1 left as they were (1 "
+              "in.wav -> out.wav: 2.000 s, low quality: 0 regions rebuilt, 1 left as it was (1 "
               "without usable coefficients: the sound around could not be predicted), the longest "
               "of 5 samples (0.23 ms), level unchanged");
 }
