@@ -29,6 +29,11 @@ public:
                        "samples by " +
                        std::to_string(report.BufferLen - 1) +
                        ", an odd number; with --keep-length each stays on its side");
+        if (FlattensOneSide(report, file_.sound))
+            file_.note(std::to_string(report.figures.single) + " of " +
+                       std::to_string(report.figures.rebuilt) +
+                       " regions lie in one channel only, whose peaks are flattened at 0.8 and not "
+                       "rebuilt; split the channels into files of their own for that");
         JobSummary summary = DeclipVerdict(report, file_.sound, length_);
         if (!file_.picture.empty()) summary.fields["picture"] = DrawPicture(report.figures);
         return summary;

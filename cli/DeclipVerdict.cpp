@@ -67,6 +67,11 @@ bool ExchangesChannels(const OverFilterReport& report, const SoundShape& sound,
     return length == OverFilterLength::AsTold && (report.BufferLen - 1) % sound.channels != 0;
 }
 
+bool FlattensOneSide(const OverFilterReport& report, const SoundShape& sound)
+{
+    return sound.channels == 2 && 2 * report.figures.single > report.figures.rebuilt;
+}
+
 JobSummary DeclipVerdict(const OverFilterReport& report, const SoundShape& sound,
                          OverFilterLength length)
 {
@@ -74,6 +79,7 @@ JobSummary DeclipVerdict(const OverFilterReport& report, const SoundShape& sound
     return {Line(report, sound),
             {{"quality", report.QualityGood != 0 ? "good" : "low"},
              {"regions_rebuilt", figures.rebuilt},
+             {"regions_of_one_sample", figures.single},
              {"regions_left_too_long", figures.left_too_long},
              {"regions_left_unpredicted", figures.left_unpredicted},
              {"crowded", figures.crowded},

@@ -40,7 +40,8 @@ std::string LengthText(std::int64_t samples, std::int32_t rate_hz)
 std::string SamplesText(std::int64_t samples, std::int32_t rate_hz)
 {
     const double ms = 1000.0 * static_cast<double>(samples) / rate_hz;
-    return Formatted("%lld samples (%.2f ms)", static_cast<long long>(samples), ms);
+    return Formatted("%lld %s (%.2f ms)", static_cast<long long>(samples),
+                     samples == 1 ? "sample" : "samples", ms);
 }
 
 std::string CentsText(double cents)

@@ -370,6 +370,7 @@ void ClsRemoveOverPolynom::PutInPlace(const OverRegion& region)
         if (over > excess_) excess_ = over;
     }
     ++figures_.rebuilt;
+    if (region_len_ == 1) ++figures_.single;
     if (observer_)
         observer_({region.start,
                    CInt(region.Length()),

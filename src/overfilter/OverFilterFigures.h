@@ -10,6 +10,7 @@ namespace lumora {
 /// centre of the buffer do not count yet.
 struct OverFilterFigures {
     std::int64_t rebuilt = 0;          ///< regions rebuilt
+    std::int64_t single = 0;           ///< of these, regions of one sample, put onto the limit
     std::int64_t left_too_long = 0;    ///< left as they were: too little of the buffer around them
     std::int64_t left_unpredicted = 0; ///< left: no usable coefficients, or no finite prediction
     std::int64_t crowded = 0;          ///< times that regions covered more than 0.15 of the buffer

@@ -220,6 +220,7 @@ TEST_F(DeclipCommand, ReportsAllFieldsAsJson)
                                      {"output_samples", 48000},
                                      {"quality", "low"},
                                      {"regions_rebuilt", 1},
+                                     {"regions_of_one_sample", 0},
                                      {"regions_left_too_long", 0},
                                      {"regions_left_unpredicted", 0},
                                      {"crowded", 1},
@@ -266,6 +267,25 @@ TEST_F(DeclipCommand, WithoutItAStereoSoundOfOddDelayChangesSidesAndANoteSaysSo)
     EXPECT_EQ(json.at("delay_samples"), 79.5);
     EXPECT_EQ(json.at("channels_exchanged"), true);
     EXPECT_EQ(json.at("notes").size(), 1U);
+}
+
+TEST_F(DeclipCommand, ANoteSaysWherePeaksOfOneChannelAreOnlyFlattened)
+{
+    // Only the left channel is loud: in the interleaved stream each of its samples over the limit
+    // stands alone, and alone it is put onto the limit.
+    Shorts samples = Tune(60000, 2);
+    for (std::size_t k = 20000; k < 20040; k += 2)
+        samples[k] = 29491;
+    folder_.Write("in.wav", WaveOf(samples, 2));
+    const CommandResult result = Run({"in.wav", "out.wav", "--keep-length"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.err,
+              "lumora: in.wav: 20 of 20 regions lie in one channel only, whose peaks are "
+              "flattened at 0.8 and not rebuilt; split the channels into files of their "
+              "own for that\n");
+    const Shorts flat = SamplesIn(folder_ / "out.wav");
+    for (std::size_t k = 20000; k < 20040; k += 2)
+        EXPECT_NEAR(flat[k], 0.8 * 32768, 1) << k;
 }
 
 TEST_F(DeclipCommand, TakesANameWithoutAnyDotForWhatItIs)

@@ -54,6 +54,7 @@ protected:
         EXPECT_EQ(filter.QualityGood(), plain.QualityGood());
         const OverFilterFigures& figures = filter.Figures();
         EXPECT_EQ(figures.rebuilt, plain.rebuilt);
+        EXPECT_EQ(figures.single, plain.single);
         EXPECT_EQ(figures.left_too_long, plain.too_long);
         EXPECT_EQ(figures.left_unpredicted, plain.failed);
         EXPECT_EQ(figures.crowded, plain.crowded);

@@ -87,7 +87,7 @@ public:
     int Length() const { return length_; }
 
     // What happened, counted where it happens.
-    int rebuilt = 0, too_long = 0, failed = 0, crowded = 0, longest = 0;
+    int rebuilt = 0, single = 0, too_long = 0, failed = 0, crowded = 0, longest = 0;
     int estimates = 0, zero_pivots = 0, singular = 0, over_ten = 0;
 
 private:
@@ -281,6 +281,7 @@ private:
         }
         buffer_ = rebuilt_buffer;
         ++rebuilt;
+        if (N == 1) ++single;
         for (int t = s; t <= e; ++t)
             excess_ = std::max(excess_, g > 0 ? buffer_(t) - 1 : -(buffer_(t) + 1));
     }
