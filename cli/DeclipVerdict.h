@@ -16,8 +16,8 @@ JobSummary DeclipVerdict(const OverFilterReport& report, const SoundShape& sound
 bool ExchangesChannels(const OverFilterReport& report, const SoundShape& sound,
                        OverFilterLength length);
 
-/// Most regions of a stereo file are single samples of the interleaved stream: only one channel at a
-/// time was over a limit, and its peaks came to lie on it.
+/// Most regions of a stereo file are single samples of the interleaved stream: only one channel at
+/// a time was over a limit, and its peaks came to lie on it.
 bool FlattensOneSide(const OverFilterReport& report, const SoundShape& sound);
 
 } // namespace lumora
