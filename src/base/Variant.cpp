@@ -72,6 +72,12 @@ template <> Date FromNumber(double number)
     return {number};
 }
 
+Variant::Variant(const Variant&) = default;
+Variant::Variant(Variant&&) noexcept = default;
+Variant& Variant::operator=(const Variant&) = default;
+Variant& Variant::operator=(Variant&&) noexcept = default;
+Variant::~Variant() = default;
+
 bool Variant::IsNumber() const
 {
     return Visit([]<class T>(const T&) {

@@ -60,6 +60,13 @@ template <> Date FromNumber(double number);
 class Variant {
 public:
     Variant() = default;
+    // Out of line: to copy or destroy a value of any of these kinds is much code, which every file
+    // would otherwise compile anew.
+    Variant(const Variant&);
+    Variant(Variant&&) noexcept;
+    Variant& operator=(const Variant&);
+    Variant& operator=(Variant&&) noexcept;
+    ~Variant();
     /// A value of any kind listed below is a Variant without further ado.
     template <class T>
     // NOLINTNEXTLINE(google-explicit-constructor)
