@@ -19,7 +19,7 @@ namespace lumora {
 namespace {
 
 /// Lines (rows, or columns of a single row) to read, both ends included.
-struct Lines {
+struct LineSpan {
     std::int32_t first = 1;
     std::int32_t last = 0;
     std::int32_t Count() const { return last - first + 1; }
@@ -141,13 +141,13 @@ private:
     }
 
     /// An end of a range that is not there means what it means when it is not given.
-    Lines LinesToRead(std::optional<std::int32_t> first, std::optional<std::int32_t> last) const
+    LineSpan LinesToRead(std::optional<std::int32_t> first, std::optional<std::int32_t> last) const
     {
         const std::int32_t all = header_.size1 == 1 ? header_.size2 : header_.size1;
         const auto is_there = [&](std::optional<std::int32_t> line) {
             return line && *line >= 1 && *line <= all;
         };
-        const Lines lines = {is_there(first) ? *first : 1, is_there(last) ? *last : all};
+        const LineSpan lines = {is_there(first) ? *first : 1, is_there(last) ? *last : all};
         if (lines.Count() < 1) Raise(ErrorNumber::Subscript, path_);
         return lines;
     }
@@ -156,7 +156,7 @@ private:
     Array<T> ReadLines(std::optional<std::int32_t> first, std::optional<std::int32_t> last) const
     {
         CheckPromise(sizeof(T));
-        const Lines lines = LinesToRead(first, last);
+        const LineSpan lines = LinesToRead(first, last);
         const bool one_row = header_.size1 == 1;
         Array<T> store = UnwrittenStore<T>(one_row ? Sizes{1, lines.Count()}
                                                    : Sizes{lines.Count(), header_.size2});

@@ -3,6 +3,7 @@
 #include "base/Cosine.h"
 #include "base/Numbers.h"
 #include "base/Vectors.h"
+#include "numeric/AllZero.h"
 #include "numeric/Results.h"
 #include "numeric/clsMatrixComplex.h"
 
@@ -163,11 +164,6 @@ void FirstStage(std::span<const double> x, double* to, std::size_t size)
         // Counting up in reversed bits: the ones that a carry clears lead the number.
         place ^= size - (size >> (std::countr_zero(k + 1) + 1));
     }
-}
-
-bool AllZero(std::span<const double> x)
-{
-    return std::all_of(x.begin(), x.end(), [](double value) { return value == 0.0; });
 }
 
 bool FiniteUpTo(std::span<const double> x, std::size_t size)

@@ -1,3 +1,4 @@
+#include "numeric/AllZero.h"
 #include "numeric/CellFormat.h"
 #include "numeric/ElementKinds.h"
 #include "numeric/ShapedStores.h"
@@ -16,11 +17,6 @@ namespace lumora {
 namespace {
 
 constexpr const char* kZeroCell = " 0";
-
-bool AllZero(std::span<const double> values)
-{
-    return std::all_of(values.begin(), values.end(), [](double x) { return x == 0.0; });
-}
 
 /// A matrix of texts of which the k-th in column-major order is `cell(k)`.
 template <class Cell> Ref<clsString> Cells(Sizes sizes, Cell cell)

@@ -1,11 +1,11 @@
 #include "audio/WaveChunks.h"
 
+#include "support/EdgeNumbers.h"
 #include "support/MessageRecorder.h"
 #include "support/TempFolder.h"
 #include "support/WaveBuilder.h"
 
 #include <gtest/gtest.h>
-#include <limits>
 
 namespace lumora {
 namespace {
@@ -85,13 +85,11 @@ struct Fault {
 
 TEST(ReadWaveformat, ShowsEachFaultUnderItsOwnText)
 {
-    constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
-    constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
     const Fault faults[] = {
         {1, 40, 13, "Error reading <wave_fmt> chunk."},
         {1, 40, 0, "Error reading <wave_fmt> chunk."},
         {1, 40, -1, "Error reading <wave_fmt> chunk."},
-        {1, 40, kLeast, "Error reading <wave_fmt> chunk."},
+        {1, 40, kLeast32, "Error reading <wave_fmt> chunk."},
         {3, 40, 13, "Error reading <wave_fmt> chunk."},
         {1, 40, 14, "error reading <wave-fmt> chunk"},
         {1, 40, 15, "error reading <wave-fmt> chunk"},
@@ -102,10 +100,10 @@ TEST(ReadWaveformat, ShowsEachFaultUnderItsOwnText)
         {1, 16, 17, "Error reading pcm <wave-fmt> chunk"},
         {1, 18, 19, "Error reading pcm <wave-fmt> chunk"},
         {1, 39, 40, "Error reading pcm <wave-fmt> chunk"},
-        {1, 40, kMost, "Error reading pcm <wave-fmt> chunk"},
+        {1, 40, kMost32, "Error reading pcm <wave-fmt> chunk"},
         {3, 14, 15, "Error reading <wave-fmt> chunk"},
         {3, 39, 40, "Error reading <wave-fmt> chunk"},
-        {-2, 40, kMost, "Error reading <wave-fmt> chunk"},
+        {-2, 40, kMost32, "Error reading <wave-fmt> chunk"},
     };
     for (const Fault& fault : faults) {
         FormatSpec spec = kStereo;

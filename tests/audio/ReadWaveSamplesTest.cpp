@@ -1,6 +1,7 @@
 #include "audio/WaveStream.h"
 
 #include "support/Arrays.h"
+#include "support/EdgeNumbers.h"
 #include "support/Limits.h"
 #include "support/MessageRecorder.h"
 #include "support/Raised.h"
@@ -8,7 +9,6 @@
 #include "support/WaveBuilder.h"
 
 #include <gtest/gtest.h>
-#include <limits>
 
 namespace lumora {
 namespace {
@@ -16,8 +16,6 @@ namespace {
 using namespace test;
 
 using Position = std::optional<std::int64_t>;
-constexpr std::int64_t kMost = std::numeric_limits<std::int64_t>::max();
-constexpr std::int64_t kLeast = std::numeric_limits<std::int64_t>::min();
 
 class ReadWaveSamplesOf : public testing::Test {
 protected:
@@ -71,11 +69,26 @@ TEST_F(ReadWaveSamplesOf, TheRangeIsClampedAndExchanged)
         Position first, last;
         int from, to;
     } table[] = {
-        {{}, {}, 1, 10},        {3, {}, 3, 10},         {{}, 4, 1, 4},          {3, 7, 3, 7},
-        {7, 3, 3, 7},           {5, 5, 5, 5},           {0, 5, 1, 5},           {-9, 2, 1, 2},
-        {11, {}, 10, 10},       {99, {}, 10, 10},       {99, 1, 1, 10},         {4, 0, 1, 4},
-        {4, -7, 1, 4},          {8, 99, 8, 10},         {1, 1, 1, 1},           {10, 10, 10, 10},
-        {kLeast, kMost, 1, 10}, {kMost, kLeast, 1, 10}, {kMost, kMost, 10, 10}, {{}, kLeast, 1, 1},
+        {{}, {}, 1, 10},
+        {3, {}, 3, 10},
+        {{}, 4, 1, 4},
+        {3, 7, 3, 7},
+        {7, 3, 3, 7},
+        {5, 5, 5, 5},
+        {0, 5, 1, 5},
+        {-9, 2, 1, 2},
+        {11, {}, 10, 10},
+        {99, {}, 10, 10},
+        {99, 1, 1, 10},
+        {4, 0, 1, 4},
+        {4, -7, 1, 4},
+        {8, 99, 8, 10},
+        {1, 1, 1, 1},
+        {10, 10, 10, 10},
+        {kLeast64, kMost64, 1, 10},
+        {kMost64, kLeast64, 1, 10},
+        {kMost64, kMost64, 10, 10},
+        {{}, kLeast64, 1, 1},
     };
     for (const auto& row : table) {
         const Array<double> samples = Read(file, row.first, row.last);

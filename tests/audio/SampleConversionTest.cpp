@@ -1,6 +1,8 @@
 #include "audio/SampleConversion.h"
 
+#include "support/EdgeNumbers.h"
 #include "support/Raised.h"
+#include "support/VectorWidths.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -11,10 +13,8 @@
 namespace lumora {
 namespace {
 
-using test::Raised;
+using namespace test;
 
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr std::size_t kLengths[] = {0, 1, 2, 3, 7, 8, 9, 15, 16, 17, 31, 33, 64, 1000};
 
 /// Once for each width of vectors that this machine has.
@@ -22,12 +22,7 @@ class Conversion : public testing::TestWithParam<VectorWidth> {
 protected:
     const SampleKernels& kernels = SampleKernelsFor(GetParam());
 };
-constexpr const char* kWidthNames[] = {"Baseline", "Avx2", "Avx512"};
-INSTANTIATE_TEST_SUITE_P(, Conversion,
-                         testing::ValuesIn(VectorWidths().begin(), VectorWidths().end()),
-                         [](const auto& one) {
-                             return kWidthNames[static_cast<std::size_t>(one.param)];
-                         });
+INSTANTIATE_TEST_SUITE_P(, Conversion, EveryWidth(), WidthName);
 
 TEST_P(Conversion, OfEveryShortIsItsExactFraction)
 {

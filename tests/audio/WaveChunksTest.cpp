@@ -16,9 +16,9 @@ namespace {
 using namespace test;
 
 const std::string kNotThere = " Cannot open specifid WAV file for input, because file not exist.";
-const std::string kHeadCut = "Truncated chunk header found -possibly not a WAV file";
-const std::string kSizeCut = "Truncated chunk data found- possibly not a WAV file";
-const std::string kRiffCut = "Truncated RIFF data found- possibly not a WAV file";
+const std::string kHeadCutText = "Truncated chunk header found -possibly not a WAV file";
+const std::string kSizeCutText = "Truncated chunk data found- possibly not a WAV file";
+const std::string kRiffCutText = "Truncated RIFF data found- possibly not a WAV file";
 
 class WaveChunks : public testing::Test {
 protected:
@@ -101,7 +101,7 @@ TEST_F(WaveChunks, ReadCkinfoShowsWhatIsCutOff)
 {
     const std::string whole = "data" + Le32(5);
     for (std::size_t length = 0; length < 8; ++length) {
-        const std::string& text = length < 4 ? kHeadCut : kSizeCut;
+        const std::string& text = length < 4 ? kHeadCutText : kSizeCutText;
         EXPECT_EQ(read_ckinfo(Open(whole.substr(0, length))).Message, text) << length;
         EXPECT_EQ(messages.Take(), Titled("Error using read_ckinfo", text)) << length;
     }
@@ -111,10 +111,10 @@ TEST_F(WaveChunks, ReadCkinfoBeyondTheEndLetsFreadSpeakFirst)
 {
     const FileNumber number = Open("abc");
     SeekTo(number, 5);
-    EXPECT_EQ(read_ckinfo(number).Message, kHeadCut);
+    EXPECT_EQ(read_ckinfo(number).Message, kHeadCutText);
     EXPECT_EQ(messages.Take(),
               (Shown{FileError("Error using fread", "Empty matrix: out of file size"),
-                     FileError("Error using read_ckinfo", kHeadCut)}));
+                     FileError("Error using read_ckinfo", kHeadCutText)}));
 }
 
 TEST_F(WaveChunks, ReadCktypeIgnoresLetterCase)
@@ -145,8 +145,8 @@ TEST_F(WaveChunks, ReadCktypeShowsWhatDidNotAppear)
 
 TEST_F(WaveChunks, ReadCktypeLeavesACutHeadToReadCkinfo)
 {
-    EXPECT_EQ(read_cktype(Open("RI"), "RIFF").Message, kHeadCut);
-    EXPECT_EQ(messages.Take(), Titled("Error using read_ckinfo", kHeadCut));
+    EXPECT_EQ(read_cktype(Open("RI"), "RIFF").Message, kHeadCutText);
+    EXPECT_EQ(messages.Take(), Titled("Error using read_ckinfo", kHeadCutText));
 }
 
 TEST_F(WaveChunks, FindRefftypeIgnoresLetterCase)
@@ -163,8 +163,8 @@ TEST_F(WaveChunks, FindRefftypeShowsWhatIsWrong)
 {
     const std::string title = "Error using find_refftype";
     for (const char* cut : {"", "W", "WA", "WAV"}) {
-        EXPECT_EQ(find_refftype(Open(cut), "WAVE").Message, kRiffCut) << cut;
-        EXPECT_EQ(messages.Take(), Titled(title, kRiffCut)) << cut;
+        EXPECT_EQ(find_refftype(Open(cut), "WAVE").Message, kRiffCutText) << cut;
+        EXPECT_EQ(messages.Take(), Titled(title, kRiffCutText)) << cut;
     }
     for (const char* other : {"AVI ", "WAV ", "\xFF\xFE\xFD\xFC"}) {
         EXPECT_EQ(find_refftype(Open(other), "WAVE").Message, "Not a WAV file") << other;

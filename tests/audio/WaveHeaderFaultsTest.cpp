@@ -1,20 +1,17 @@
 #include "audio/WaveStream.h"
 
+#include "support/EdgeNumbers.h"
 #include "support/MessageRecorder.h"
 #include "support/Raised.h"
 #include "support/TempFolder.h"
 #include "support/WaveBuilder.h"
 
 #include <gtest/gtest.h>
-#include <limits>
 
 namespace lumora {
 namespace {
 
 using namespace test;
-
-constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
-constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
 
 const ShownMessage kNoMessage = {""};
 const ShownMessage kHeadCut =
@@ -154,7 +151,7 @@ TEST_F(WaveHeader, ThatIsNoWaveSaysSo)
 
 TEST_F(WaveHeader, WithARiffSizeThatLiesIsReadAllTheSame)
 {
-    for (std::int32_t size : {0, -1, 3, kLeast, kMost}) {
+    for (std::int32_t size : {0, -1, 3, kLeast32, kMost32}) {
         ExpectFault(Wave(FormatChunk() + Chunk("data", "ssss"), size), kNoMessage,
                     std::to_string(size));
         EXPECT_EQ(ReadWaveInfo(folder / "f.wav").RiffSize, size);
@@ -167,11 +164,13 @@ TEST_F(WaveHeader, WithAFormatSizeThatLiesSaysSo)
     const struct {
         std::int32_t size;
         const char* text;
-    } table[] = {
-        {0, "Error reading <wave_fmt> chunk."},       {-1, "Error reading <wave_fmt> chunk."},
-        {kLeast, "Error reading <wave_fmt> chunk."},  {13, "Error reading <wave_fmt> chunk."},
-        {15, "error reading <wave-fmt> chunk"},       {1000, "Error reading pcm <wave-fmt> chunk"},
-        {kMost, "Error reading pcm <wave-fmt> chunk"}};
+    } table[] = {{0, "Error reading <wave_fmt> chunk."},
+                 {-1, "Error reading <wave_fmt> chunk."},
+                 {kLeast32, "Error reading <wave_fmt> chunk."},
+                 {13, "Error reading <wave_fmt> chunk."},
+                 {15, "error reading <wave-fmt> chunk"},
+                 {1000, "Error reading pcm <wave-fmt> chunk"},
+                 {kMost32, "Error reading pcm <wave-fmt> chunk"}};
     for (const auto& row : table)
         ExpectFault(Wave(FormatChunk({}, row.size) + Chunk("data", "ssss")), Format(row.text),
                     std::to_string(row.size));
@@ -184,8 +183,8 @@ TEST_F(WaveHeader, WithAFactSizeThatLiesSaysSo)
         const char* text;
     } table[] = {
         {0, "Error reading <fact-ck> chunc."},   {3, "Error reading <fact-ck> chunc."},
-        {-1, "Error reading <fact-ck> chunc."},  {kLeast, "Error reading <fact-ck> chunc."},
-        {1000, "Error reading <fact-ck> chunk"}, {kMost, "Error reading <fact-ck> chunk"}};
+        {-1, "Error reading <fact-ck> chunc."},  {kLeast32, "Error reading <fact-ck> chunc."},
+        {1000, "Error reading <fact-ck> chunk"}, {kMost32, "Error reading <fact-ck> chunk"}};
     const std::string format_and_info = FormatChunk() + Chunk("INFO", "x");
     for (const auto& row : table) {
         std::string rest = Chunk("fact", Le32(2), row.size);
@@ -207,8 +206,8 @@ TEST_F(WaveHeader, WithADataSizeThatLiesIsTakenAtItsWord)
                  {1000000, 1000044, 500000},
                  {-1, 43, -1}, // the floor of -0.5
                  {-4, 40, -2},
-                 {kLeast, kLeast + 44, kLeast / 2},
-                 {kMost - 44, kMost, (kMost - 45) / 2}};
+                 {kLeast32, kLeast32 + 44, kLeast32 / 2},
+                 {kMost32 - 44, kMost32, (kMost32 - 45) / 2}};
     for (const auto& row : table) {
         ExpectFault(PlainWave({}, "ssss", row.size), kNoMessage, std::to_string(row.size));
         const WaveInfo info = ReadWaveInfo(folder / "f.wav");
@@ -224,7 +223,8 @@ TEST_F(WaveHeader, ThatCountsBeyondThirtyTwoBitsOverflows)
     const struct {
         FormatSpec spec;
         std::int32_t size;
-    } table[] = {{{}, kMost}, {{}, kMost - 43}, {{.bits = 1}, kMost - 44}, {{.bits = 4}, kLeast}};
+    } table[] = {
+        {{}, kMost32}, {{}, kMost32 - 43}, {{.bits = 1}, kMost32 - 44}, {{.bits = 4}, kLeast32}};
     for (const auto& row : table)
         EXPECT_EQ(Raised([&] {
                       ReadWaveInfo(folder.Write("f.wav", PlainWave(row.spec, "ss", row.size)));
@@ -267,7 +267,7 @@ TEST_F(WaveHeader, WithAnotherChunkAheadOfTheDataEndsInTheErrorOfFseek)
         Wave(FormatChunk() + Chunk("LIST", "INFO") + data),
         Wave(Chunk("LIST", "") + FormatChunk() + data),
         Wave(FormatChunk() + Chunk("LIST", "", -8) + data),
-        Wave(FormatChunk() + Chunk("LIST", "", kMost)),
+        Wave(FormatChunk() + Chunk("LIST", "", kMost32)),
         Wave(FormatChunk() + std::string(8, '\0') + data),
         // Only RIFF and WAVE ignore letter case.
         Wave(Chunk("FMT ", FormatBody({})) + data),

@@ -19,7 +19,7 @@ namespace {
 
 using namespace test;
 
-constexpr int kFrames = 3001; // odd, so that 8 bits of mono need the pad byte
+constexpr int kPeerFrames = 3001; // odd, so that 8 bits of mono need the pad byte
 constexpr int kRate = 22050;
 
 using Numbers = std::vector<std::int32_t>;
@@ -29,7 +29,7 @@ Numbers Tone(int channels, int bits)
 {
     const double full = std::ldexp(1.0, bits - 1) - 1.0;
     Numbers numbers;
-    for (int frame = 0; frame < kFrames; ++frame)
+    for (int frame = 0; frame < kPeerFrames; ++frame)
         for (int c = 0; c < channels; ++c)
             numbers.push_back(static_cast<std::int32_t>(
                 std::lround(0.98 * full * std::sin(0.03 * (c + 1) * frame + c))));
@@ -49,8 +49,8 @@ Ref<clsMatrix> MatrixOf(const Numbers& numbers, int channels, int bits)
 {
     const double full = bits == 32 ? 2147483647.0 : std::ldexp(1.0, bits - 1);
     Ref<clsMatrix> m = MakeRef<clsMatrix>();
-    m->Initial_matrix(kFrames, channels);
-    for (int frame = 0; frame < kFrames; ++frame)
+    m->Initial_matrix(kPeerFrames, channels);
+    for (int frame = 0; frame < kPeerFrames; ++frame)
         for (int c = 0; c < channels; ++c)
             m->Real(frame + 1, c + 1,
                     numbers[static_cast<std::size_t>(frame * channels + c)] / full);
@@ -85,12 +85,12 @@ TEST_P(WavePeers, LibsndfileReadsWhatWeWrite)
     SF_INFO info = {};
     SNDFILE* const file = sf_open(name.c_str(), SFM_READ, &info);
     ASSERT_NE(file, nullptr) << sf_strerror(nullptr);
-    EXPECT_EQ(info.frames, kFrames);
+    EXPECT_EQ(info.frames, kPeerFrames);
     EXPECT_EQ(info.samplerate, kRate);
     EXPECT_EQ(info.channels, channels);
     EXPECT_EQ(info.format, SF_FORMAT_WAV | subtype);
     Numbers read(tone.size() + 8); // room for more than there should be
-    const sf_count_t count = sf_readf_int(file, read.data(), kFrames + 4) * channels;
+    const sf_count_t count = sf_readf_int(file, read.data(), kPeerFrames + 4) * channels;
     read.resize(static_cast<std::size_t>(count));
     sf_close(file);
     EXPECT_EQ(read, Widened(tone, bits));
@@ -113,8 +113,8 @@ TEST_P(WavePeers, WeReadWhatLibsndfileWrites)
     ASSERT_TRUE(result.Samples);
     EXPECT_EQ(result.Bits, bits);
     EXPECT_EQ(result.Rate, kRate);
-    ASSERT_EQ(ShapeOf(*result.Samples), Sized(kFrames, channels));
-    for (int frame = 0; frame < kFrames; ++frame)
+    ASSERT_EQ(ShapeOf(*result.Samples), Sized(kPeerFrames, channels));
+    for (int frame = 0; frame < kPeerFrames; ++frame)
         for (int c = 0; c < channels; ++c)
             ASSERT_EQ(result.Samples->Real(frame + 1, c + 1),
                       std::ldexp(tone[static_cast<std::size_t>(frame * channels + c)], 1 - bits));

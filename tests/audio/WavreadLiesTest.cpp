@@ -1,6 +1,7 @@
 #include "audio/Wavread.h"
 
 #include "numeric/Matrices.h"
+#include "support/EdgeNumbers.h"
 #include "support/Limits.h"
 #include "support/MessageRecorder.h"
 #include "support/Raised.h"
@@ -8,15 +9,12 @@
 #include "support/WaveBuilder.h"
 
 #include <gtest/gtest.h>
-#include <limits>
 
 namespace lumora {
 namespace {
 
 using namespace test;
 
-constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
-constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
 const std::string kPcmFormat = "Error reading PCM file format.";
 
 /// Files whose header does not tell the truth.
@@ -43,16 +41,16 @@ protected:
 
 TEST_F(WavreadOfALie, DataThatTheFileDoesNotHoldIsAFault)
 {
-    for (std::int32_t promised : {6, 1000, 1000000000, kMost - 44})
+    for (std::int32_t promised : {6, 1000, 1000000000, kMost32 - 44})
         for (int bits : {8, 16, 32})
             ExpectFault(Read(PlainWave({.bits = bits}, "ssss", promised)), kPcmFormat);
-    for (std::int32_t promised : {20000, 1000000000, kMost - 44})
+    for (std::int32_t promised : {20000, 1000000000, kMost32 - 44})
         ExpectFault(Read(PlainWave({.channels = 32767, .bits = 8}, "ssss", promised)), kPcmFormat);
 }
 
 TEST_F(WavreadOfALie, SizeFindsOutToo)
 {
-    for (std::int32_t promised : {5, 6, 1000000000, kMost - 44})
+    for (std::int32_t promised : {5, 6, 1000000000, kMost32 - 44})
         ExpectFault(Read(PlainWave({}, "ssss", promised), "size"), kPcmFormat);
 }
 
@@ -73,7 +71,7 @@ TEST_F(WavreadOfALie, ARangeThatIsThereIsRead)
 
 TEST_F(WavreadOfALie, ANegativeSizeIsAFault)
 {
-    for (std::int32_t size : {-1, -4, -1000, kLeast + 44, kLeast}) {
+    for (std::int32_t size : {-1, -4, -1000, kLeast32 + 44, kLeast32}) {
         ExpectFault(Read(PlainWave({}, "ssss", size)), kPcmFormat);
         ExpectFault(Read(PlainWave({}, "ssss", size), "size"), kPcmFormat);
         ExpectFault(Read(PlainWave({}, "ssss", size), 1.0, 1.0), kPcmFormat);
@@ -99,7 +97,7 @@ TEST_F(WavreadOfALie, NoChannelsAreADivisionByZero)
 
 TEST_F(WavreadOfALie, DataBeyondTwoGibibytesOverflows)
 {
-    for (std::int32_t size : {kMost, kMost - 43}) {
+    for (std::int32_t size : {kMost32, kMost32 - 43}) {
         const std::string name = folder.Write("f.wav", PlainWave({}, "ssss", size));
         EXPECT_EQ(Raised([&] { wavread(name); }), 6);
         EXPECT_EQ(Raised([&] { wavread(name, "size"); }), 6);

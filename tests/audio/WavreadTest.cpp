@@ -1,6 +1,7 @@
 #include "audio/Wavread.h"
 
 #include "numeric/Matrices.h"
+#include "support/EdgeNumbers.h"
 #include "support/Limits.h"
 #include "support/MessageRecorder.h"
 #include "support/Raised.h"
@@ -8,7 +9,6 @@
 #include "support/WaveBuilder.h"
 
 #include <gtest/gtest.h>
-#include <limits>
 
 namespace lumora {
 namespace {
@@ -234,8 +234,6 @@ TEST_F(Wavread, ARangeHasBothEnds)
 
 TEST_F(Wavread, ARangeBeyondTheFileIsRefused)
 {
-    constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-    constexpr double kInfinity = std::numeric_limits<double>::infinity();
     const double table[][2] = {{0, 1},          {1, 4},    {-1, 2},  {4, 4},     {0, 0},
                                {4, 1},          {3, 3.6},  {0.5, 1}, {1e300, 1}, {1, kInfinity},
                                {-kInfinity, 1}, {kNan, 2}, {2, kNan}};

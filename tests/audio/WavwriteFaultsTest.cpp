@@ -1,22 +1,19 @@
 #include "audio/Wavwrite.h"
 
 #include "numeric/Matrices.h"
+#include "support/EdgeNumbers.h"
 #include "support/Limits.h"
 #include "support/MessageRecorder.h"
 #include "support/Raised.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
-#include <limits>
 #include <sys/stat.h>
 
 namespace lumora {
 namespace {
 
 using namespace test;
-
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 /// Whatever goes wrong ahead of the writing, an older file of the name is as it was.
 class WavwriteFault : public testing::Test {

@@ -1,23 +1,16 @@
 #include "base/ByteStream.h"
 
+#include "support/EdgeNumbers.h"
 #include "support/MessageRecorder.h"
 #include "support/Raised.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
-#include <limits>
 
 namespace lumora {
 namespace {
 
-using test::FileError;
-using test::MessageRecorder;
-using test::Raised;
-using test::Shown;
-using test::TempFolder;
-
-constexpr std::int64_t kMost = std::numeric_limits<std::int64_t>::max();
-constexpr std::int64_t kLeast = std::numeric_limits<std::int64_t>::min();
+using namespace test;
 
 /// A file of ten bytes that stands at position 4.
 class Fseek : public testing::Test {
@@ -66,10 +59,10 @@ TEST_F(Fseek, StaysWhereItWasWhenItFailsAndSaysNothing)
         std::int64_t offset;
         const char* origin;
     } table[] = {
-        {0, "seek_set"},      {-1, "seek_set"}, {12, "seek_set"},  {kMost, "seek_set"},
-        {kLeast, "seek_set"}, {-4, "seek_cur"}, {8, "seek_cur"},   {kMost, "seek_cur"},
-        {kLeast, "seek_cur"}, {1, "seek_end"},  {-11, "seek_end"}, {kMost, "seek_end"},
-        {kLeast, "seek_end"},
+        {0, "seek_set"},        {-1, "seek_set"}, {12, "seek_set"},  {kMost64, "seek_set"},
+        {kLeast64, "seek_set"}, {-4, "seek_cur"}, {8, "seek_cur"},   {kMost64, "seek_cur"},
+        {kLeast64, "seek_cur"}, {1, "seek_end"},  {-11, "seek_end"}, {kMost64, "seek_end"},
+        {kLeast64, "seek_end"},
     };
     for (const auto& row : table) {
         const FseekResult result = fseek(Number(), row.offset, row.origin);
@@ -111,7 +104,7 @@ TEST_F(Fseek, SeekToReachesBeyondTheEndButNotBelowOne)
 {
     SeekTo(Number(), 1000);
     EXPECT_EQ(FilePosition(Number()), 1000);
-    for (std::int64_t position : {std::int64_t{0}, std::int64_t{-1}, kLeast})
+    for (std::int64_t position : {std::int64_t{0}, std::int64_t{-1}, kLeast64})
         EXPECT_EQ(Raised([&] { SeekTo(Number(), position); }), 63) << position;
 }
 

@@ -1,21 +1,18 @@
 #include "base/ByteStream.h"
 
 #include "support/Arrays.h"
+#include "support/EdgeNumbers.h"
 #include "support/LittleEndian.h"
 #include "support/MessageRecorder.h"
 #include "support/Raised.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
-#include <limits>
 
 namespace lumora {
 namespace {
 
 using namespace test;
-
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 /// Writes into one new file; what has been written is asked for bit by bit.
 class Fwrite : public testing::Test {

@@ -1,5 +1,6 @@
 #include "base/Numbers.h"
 
+#include "support/EdgeNumbers.h"
 #include "support/Raised.h"
 
 #include <cmath>
@@ -9,10 +10,7 @@
 namespace lumora {
 namespace {
 
-using test::Raised;
-
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
+using namespace test;
 
 TEST(Round, GoesToTheNearestAndTakesTheEvenOneOfTwo)
 {

@@ -9,13 +9,13 @@
 namespace lumora::test {
 namespace {
 
-using Row = std::vector<std::string>;
+using PageRow = std::vector<std::string>;
 const std::string kDocs = LUMORA_SOURCE_DIR "/docs/";
 
 /// The cells of a table's line, blanks and marks taken off.
-Row Cells(const std::string& line)
+PageRow Cells(const std::string& line)
 {
-    Row cells;
+    PageRow cells;
     std::istringstream rest(line.substr(1));
     for (std::string cell; std::getline(rest, cell, '|');) {
         std::erase_if(cell, [](char c) { return c == ' ' || c == '*' || c == ','; });
@@ -25,10 +25,10 @@ Row Cells(const std::string& line)
 }
 
 /// The rows of the page's two tables of settings, each with the table's head in front.
-std::vector<std::pair<Row, Row>> SettingRows()
+std::vector<std::pair<PageRow, PageRow>> SettingRows()
 {
-    std::vector<std::pair<Row, Row>> rows;
-    Row head;
+    std::vector<std::pair<PageRow, PageRow>> rows;
+    PageRow head;
     std::istringstream page(BytesOf(kDocs + "accuracy.md"));
     for (std::string line; std::getline(page, line);) {
         if (line.rfind("| Tones", 0) == 0) head = Cells(line);
@@ -50,7 +50,7 @@ TEST(AccuracyPage, TellsOfEveryRateWhatTheCommandReports)
     const TempFolder folder;
     const auto rows = SettingRows();
     ASSERT_EQ(rows.size(), 16U);
-    const Row& head = rows.front().first;
+    const PageRow& head = rows.front().first;
     ASSERT_EQ(head.size(), 12U);
     std::vector<std::string> inputs;
     for (std::size_t k = 2; k < head.size(); ++k)

@@ -14,12 +14,7 @@
 namespace lumora {
 namespace {
 
-using test::Generator;
-using test::PlainWave;
-
-constexpr int kOverflow = static_cast<int>(ErrorNumber::Overflow);
-constexpr int kSubscript = static_cast<int>(ErrorNumber::Subscript);
-constexpr int kDivision = static_cast<int>(ErrorNumber::DivisionByZero);
+using namespace test;
 
 class BlockPipelineFaults : public testing::Test {
 protected:

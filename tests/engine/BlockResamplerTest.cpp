@@ -13,14 +13,8 @@
 namespace lumora {
 namespace {
 
-using test::Elements;
-using test::PlainResampler;
-using test::Raised;
-using test::Row;
+using namespace test;
 using Numbers = std::vector<double>;
-
-constexpr int kOverflow = static_cast<int>(ErrorNumber::Overflow);
-constexpr int kSubscript = static_cast<int>(ErrorNumber::Subscript);
 
 Numbers Resampled(BlockResampler& resampler, const Numbers& source, double rate)
 {

@@ -14,12 +14,9 @@
 namespace lumora {
 namespace {
 
-using test::Raised;
+using namespace test;
 using Block = std::vector<double>;
 
-constexpr int kSubscript = static_cast<int>(ErrorNumber::Subscript);
-constexpr int kOverflow = static_cast<int>(ErrorNumber::Overflow);
-constexpr int kDivision = static_cast<int>(ErrorNumber::DivisionByZero);
 constexpr std::int16_t kN = 220, kS = 5, kX = 20;
 
 /// The core as a run at 22,050 Hz sets it up.

@@ -2,6 +2,7 @@
 #include "engine/ShortKernels.h"
 
 #include "engine/SoundKinds.h"
+#include "support/VectorWidths.h"
 
 #include <bit>
 #include <cmath>
@@ -12,8 +13,7 @@
 namespace lumora {
 namespace {
 
-using test::Between;
-using test::Generator;
+using namespace test;
 using Numbers = std::vector<double>;
 
 constexpr double kUntouched = 12345.0;
@@ -35,11 +35,7 @@ protected:
         return numbers;
     }
 };
-constexpr const char* kWidthNames[] = {"Baseline", "Avx2", "Avx512"};
-INSTANTIATE_TEST_SUITE_P(, Kernel, testing::ValuesIn(VectorWidths().begin(), VectorWidths().end()),
-                         [](const auto& one) {
-                             return kWidthNames[static_cast<std::size_t>(one.param)];
-                         });
+INSTANTIATE_TEST_SUITE_P(, Kernel, EveryWidth(), WidthName);
 
 void ExpectSameBits(double value, double expected)
 {

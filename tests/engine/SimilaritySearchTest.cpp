@@ -1,6 +1,7 @@
 #include "engine/SimilaritySearch.h"
 
 #include "engine/SoundKinds.h"
+#include "support/VectorWidths.h"
 
 #include <gtest/gtest.h>
 #include <utility>
@@ -9,8 +10,7 @@
 namespace lumora {
 namespace {
 
-using test::Between;
-using test::Generator;
+using namespace test;
 
 /// Room behind a signal for what the kernels read ahead.
 constexpr std::size_t kBehind = kShiftGroup + ShortKernels::kGroup + 1;
@@ -38,11 +38,7 @@ protected:
 
     SimilaritySearch search;
 };
-constexpr const char* kWidthNames[] = {"Baseline", "Avx2", "Avx512"};
-INSTANTIATE_TEST_SUITE_P(, Search, testing::ValuesIn(VectorWidths().begin(), VectorWidths().end()),
-                         [](const auto& one) {
-                             return kWidthNames[static_cast<std::size_t>(one.param)];
-                         });
+INSTANTIATE_TEST_SUITE_P(, Search, EveryWidth(), WidthName);
 
 std::vector<double> AsSamples(const test::Shorts16& shorts)
 {

@@ -1,11 +1,11 @@
 #include "numeric/Sounds.h"
+#include "support/EdgeNumbers.h"
 #include "support/Raised.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <string>
 #include <vector>
 
@@ -13,9 +13,6 @@ namespace lumora {
 namespace {
 
 using namespace test;
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 /// The answer and where the bounds have come to.
 struct Search {
@@ -130,16 +127,15 @@ TEST(BinSearchInArray, LooksOnlyWhereItHasTo)
     EXPECT_EQ(Raised([&] { Searched(*x, -5, 3, 2.5); }), 9);
     EXPECT_EQ(Raised([&] { Searched(*MakeRef<clsMatrix>(), 1, 1, 2.5); }), 9);
     EXPECT_EQ(Raised([&] { Searched(*RealMatrix({{1, 2}, {3, 4}}), 1, 2, 2.5); }), 9);
-    constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
-    EXPECT_EQ(Raised([&] { Searched(*x, -kMost - 1, kMost, 2.5); }), 9);
+    EXPECT_EQ(Raised([&] { Searched(*x, -kMost32 - 1, kMost32, 2.5); }), 9);
 }
 
 TEST(BinSearchInArray, EndsWhereElementsAreNoNumbers)
 {
-    EXPECT_EQ(Searched(*RealMatrix({{1, 2, 3}}), 1, 3, kNaN).place, 3);
-    EXPECT_EQ(Searched(*RealMatrix({{1, 2, kNaN}}), 1, 3, 2.0).place, 3);
-    EXPECT_EQ(Raised([] { Searched(*RealMatrix({{kNaN, 3}}), 1, 2, 2.0); }), 5);
-    EXPECT_EQ(Raised([] { Searched(*RealMatrix({{kNaN, kNaN, kNaN, 3}}), 1, 4, 2.0); }), 5);
+    EXPECT_EQ(Searched(*RealMatrix({{1, 2, 3}}), 1, 3, kNan).place, 3);
+    EXPECT_EQ(Searched(*RealMatrix({{1, 2, kNan}}), 1, 3, 2.0).place, 3);
+    EXPECT_EQ(Raised([] { Searched(*RealMatrix({{kNan, 3}}), 1, 2, 2.0); }), 5);
+    EXPECT_EQ(Raised([] { Searched(*RealMatrix({{kNan, kNan, kNan, 3}}), 1, 4, 2.0); }), 5);
     EXPECT_EQ(Raised([] { Searched(*RealMatrix({{-kInfinity, 0, 3}}), 1, 3, -kInfinity); }), 5);
     EXPECT_EQ(Searched(*RealMatrix({{-kInfinity, 0, kInfinity}}), 1, 3, 1.0).place, 3);
 }

@@ -1,4 +1,5 @@
 #include "numeric/Sounds.h"
+#include "support/EdgeNumbers.h"
 #include "support/Raised.h"
 
 #include <gtest/gtest.h>
@@ -12,9 +13,6 @@ namespace lumora {
 namespace {
 
 using namespace test;
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 using Member = Ref<clsMatrix> (clsMatrix::*)(double) const;
 constexpr Member kLinear = &clsMatrix::Compression_Expansion;
@@ -207,7 +205,7 @@ TEST(Compression, StopsAtMoreSamplesThanCanBeCounted)
     for (const Member member : {kLinear, kToLength, kPicking}) {
         EXPECT_EQ(Raised([&] { Resampled(Sound(3), member, 2e9); }), 6);
         EXPECT_EQ(Raised([&] { Resampled(Sound(3), member, kInfinity); }), 6);
-        EXPECT_EQ(Raised([&] { Resampled(Sound(3), member, kNaN); }), 6);
+        EXPECT_EQ(Raised([&] { Resampled(Sound(3), member, kNan); }), 6);
         EXPECT_EQ(Raised([&] { ((*MakeRef<clsMatrix>()).*member)(1.0); }), 9);
     }
 }

@@ -1,19 +1,17 @@
 #include "numeric/ComplexFormulas.h"
 #include "numeric/Matrices.h"
+#include "support/EdgeNumbers.h"
 #include "support/Raised.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 #include <string>
 
 namespace lumora::test {
 namespace {
 
 constexpr double kHuge = 1e306;
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 using Function = Variant (*)(const clsMatrix&);
 
@@ -202,7 +200,7 @@ TEST(ElementaryReal, PassesInfinitiesAndNaNs)
     EXPECT_TRUE(std::isnan(RealMatrix({{kInfinity}})->SinM()->Real(1, 1)));
     for (const Domain& domain : kDomains) {
         SCOPED_TRACE(domain.name);
-        EXPECT_TRUE(std::isnan(RealValues(domain.function(*RealMatrix({{kNaN}}))).at(0)));
+        EXPECT_TRUE(std::isnan(RealValues(domain.function(*RealMatrix({{kNan}}))).at(0)));
     }
     EXPECT_EQ(messages.shown, Shown());
 }
@@ -316,7 +314,7 @@ TEST(Atan2, KnowsEveryQuadrantAndAxis)
     EXPECT_EQ(Atan2(-0.0, -2), kPi);
     EXPECT_EQ(Atan2(0, -0.0), 0);
     EXPECT_EQ(Atan2(1e300, 1e-300), std::atan(kInfinity));
-    EXPECT_TRUE(std::isnan(Atan2(kNaN, 0)));
+    EXPECT_TRUE(std::isnan(Atan2(kNan, 0)));
 }
 
 } // namespace

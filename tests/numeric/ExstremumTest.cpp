@@ -1,5 +1,6 @@
 #include "numeric/Random.h"
 #include "numeric/Sounds.h"
+#include "support/EdgeNumbers.h"
 #include "support/Raised.h"
 
 #include <gtest/gtest.h>
@@ -14,8 +15,6 @@ namespace lumora {
 namespace {
 
 using namespace test;
-
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 std::vector<std::int32_t> Places(const Sound& x, const Variant& level = {})
 {
@@ -105,8 +104,8 @@ TEST(FoundIndexesExstremum, OfAShortVectorOrAMatrixIsNone)
 
 TEST(FoundIndexesExstremum, PassesWhatIsNoNumber)
 {
-    EXPECT_EQ(Places({1, kNaN, 1, 2, 1}), std::vector<std::int32_t>{4});
-    EXPECT_EQ(Places({1, 2, kNaN, 1}), std::vector<std::int32_t>{0});
+    EXPECT_EQ(Places({1, kNan, 1, 2, 1}), std::vector<std::int32_t>{4});
+    EXPECT_EQ(Places({1, 2, kNan, 1}), std::vector<std::int32_t>{0});
 }
 
 TEST(ExstremumValueAndIndexMax, IsInTheOrderOfTheSamples)

@@ -1,6 +1,7 @@
 #include "numeric/Fourier.h"
 #include "base/Numbers.h"
 #include "numeric/Matrices.h"
+#include "support/EdgeNumbers.h"
 #include "support/Raised.h"
 #include "support/ReferenceCosine.h"
 
@@ -16,9 +17,6 @@ namespace lumora {
 namespace {
 
 using namespace test;
-
-constexpr double kEpsilon = std::numeric_limits<double>::epsilon();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 /// Comparable to the last bit, the signs of zeros included.
 std::vector<std::uint64_t> Bits(const std::vector<double>& values)
@@ -103,11 +101,12 @@ void PlainStages(Array<double>& re, Array<double>& im, std::int64_t n_fft)
 }
 
 /// The transform step by step on checked arrays: error 9 where an index leaves them.
-struct Plain {
+struct PlainTransform {
     Array<double> re;
     Array<double> im;
 
-    Plain(Array<double> x_re, Array<double> x_im, std::int64_t n_fft) : re(n_fft), im(n_fft)
+    PlainTransform(Array<double> x_re, Array<double> x_im, std::int64_t n_fft)
+        : re(n_fft), im(n_fft)
     {
         x_re.ReDimPreserve(n_fft);
         x_im.ReDimPreserve(n_fft);
@@ -118,7 +117,7 @@ struct Plain {
 };
 
 /// A row of noise.
-Array<double> Noise(std::int32_t length, std::uint32_t seed)
+Array<double> NoiseRow(std::int32_t length, std::uint32_t seed)
 {
     std::mt19937 generator(seed);
     std::uniform_real_distribution<double> value(-1.0, 1.0);
@@ -168,8 +167,8 @@ TEST(Fftm, FollowsThePlainStepsToTheLastBit)
     for (std::int32_t n_fft = 1; n_fft <= 4096; n_fft *= 2)
         for (const std::int32_t length : {n_fft, n_fft / 2 + 1, n_fft + 3}) {
             SCOPED_TRACE(testing::Message() << length << " samples, n_fft " << n_fft);
-            const Array<double> x = Noise(length, static_cast<std::uint32_t>(n_fft));
-            const Plain plain(x, Array<double>(length), n_fft);
+            const Array<double> x = NoiseRow(length, static_cast<std::uint32_t>(n_fft));
+            const PlainTransform plain(x, Array<double>(length), n_fft);
             const Variant forward = AsMatrix(x)->fftm(n_fft);
             EXPECT_EQ(Bits(Real(forward)), Bits(Elements(plain.re)));
             EXPECT_EQ(Bits(Image(forward)), Bits(Elements(plain.im)));
@@ -181,9 +180,9 @@ TEST(Fftm, OfComplexElementsFollowsThePlainStepsToTheLastBit)
     for (std::int32_t n_fft = 1; n_fft <= 4096; n_fft *= 2)
         for (const std::int32_t length : {n_fft, n_fft / 2 + 1, n_fft + 3}) {
             SCOPED_TRACE(testing::Message() << length << " samples, n_fft " << n_fft);
-            const Array<double> re = Noise(length, static_cast<std::uint32_t>(n_fft));
-            const Array<double> im = Noise(length, static_cast<std::uint32_t>(length) + 7777);
-            const Plain plain(re, im, n_fft);
+            const Array<double> re = NoiseRow(length, static_cast<std::uint32_t>(n_fft));
+            const Array<double> im = NoiseRow(length, static_cast<std::uint32_t>(length) + 7777);
+            const PlainTransform plain(re, im, n_fft);
             const Variant forward = AsMatrix(re, im)->fftm(n_fft);
             EXPECT_EQ(Bits(Real(forward)), Bits(Elements(plain.re)));
             EXPECT_EQ(Bits(Image(forward)), Bits(Elements(plain.im)));
@@ -192,13 +191,13 @@ TEST(Fftm, OfComplexElementsFollowsThePlainStepsToTheLastBit)
 
 TEST(Fftm, KeepsTheSignsOfZerosOfThePlainSteps)
 {
-    Array<double> re = Noise(64, 5);
+    Array<double> re = NoiseRow(64, 5);
     Array<double> im(64);
     for (std::int64_t k = 1; k <= 64; ++k) {
         if (k % 3 != 0) re(k) = k % 2 == 0 ? 0.0 : -0.0;
         im(k) = k % 5 < 3 ? 0.0 : -0.0;
     }
-    const Plain plain(re, im, 64);
+    const PlainTransform plain(re, im, 64);
     const Variant forward = AsMatrix(re, im)->fftm(64);
     EXPECT_EQ(Bits(Real(forward)), Bits(Elements(plain.re)));
     EXPECT_EQ(Bits(Image(forward)), Bits(Elements(plain.im)));
@@ -207,9 +206,9 @@ TEST(Fftm, KeepsTheSignsOfZerosOfThePlainSteps)
 TEST(Fftm, HasTheSameBitsInEveryVectorWidth)
 {
     for (std::int32_t size = 1; size <= 1024; size *= 2) {
-        const Array<double> x_re = Noise(size, 11);
-        const Array<double> x_im = Noise(size, 12);
-        const Plain plain(x_re, x_im, size);
+        const Array<double> x_re = NoiseRow(size, 11);
+        const Array<double> x_im = NoiseRow(size, 12);
+        const PlainTransform plain(x_re, x_im, size);
         for (const VectorWidth width : VectorWidths()) {
             Array<double> re(size);
             Array<double> im(size);
@@ -223,13 +222,13 @@ TEST(Fftm, HasTheSameBitsInEveryVectorWidth)
 TEST(Fftm, IsTheDiscreteFourierTransform)
 {
     for (const std::int32_t n : {1, 2, 4, 8, 32, 256, 1024}) {
-        const std::vector<Complex> x = Values(*AsMatrix(Noise(n, 1), Noise(n, 2)));
+        const std::vector<Complex> x = Values(*AsMatrix(NoiseRow(n, 1), NoiseRow(n, 2)));
         double total = 0.0;
         for (const Complex& z : x)
             total += std::abs(z);
         // Each factor may be an epsilon or two further off than the one before it.
         const double bound = 4.0 * kEpsilon * n * total;
-        const Variant transform = AsMatrix(Noise(n, 1), Noise(n, 2))->fftm(n);
+        const Variant transform = AsMatrix(NoiseRow(n, 1), NoiseRow(n, 2))->fftm(n);
         const auto result = Values(*transform.As<Ref<clsComplexMatrix>>());
         for (std::int64_t k = 0; k < n; ++k) {
             Complex sum;
@@ -280,7 +279,7 @@ TEST(Fftm, OfOnePartThatIsZeroIsComplex)
 
 TEST(Ifftm, IsTheForwardTransformDividedByItsLength)
 {
-    const Ref<clsMatrix> x = AsMatrix(Noise(64, 3));
+    const Ref<clsMatrix> x = AsMatrix(NoiseRow(64, 3));
     const Variant forward = x->fftm(64);
     const Variant back = x->ifftm(64);
     for (std::size_t k = 0; k < 64; ++k) {
@@ -319,12 +318,12 @@ TEST(Fftm, OfAMatrixOfObjectsIsEmpty)
 TEST(Fftm, NeedsAPowerOfTwo)
 {
     // Of every other length the plain steps leave the arrays, or never end.
-    const Array<double> x = Noise(10, 9);
+    const Array<double> x = NoiseRow(10, 9);
     const Ref<clsMatrix> m = AsMatrix(x);
     for (std::int32_t n_fft = 1; n_fft <= 600; ++n_fft) {
         int plain = 0;
         try {
-            plain = Raised([&] { Plain(x, Array<double>(10), n_fft); });
+            plain = Raised([&] { PlainTransform(x, Array<double>(10), n_fft); });
         } catch (const Endless&) {
             plain = 9;
         }

@@ -1,10 +1,10 @@
 #include "numeric/Matrices.h"
 #include "numeric/Random.h"
+#include "support/EdgeNumbers.h"
 #include "support/Raised.h"
 
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <string>
 #include <vector>
 
@@ -102,9 +102,8 @@ TEST(Gt, StopsAtABeliedTagAndWithoutElements)
 
 TEST(Gt, IsNeverTrueOfWhatIsNoNumber)
 {
-    constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-    EXPECT_EQ(Values(*RealMatrix({{kNaN, 1}})->Gt(0.0)), (Answers{0, 1}));
-    EXPECT_EQ(Values(*RealMatrix({{0, 1}})->Gt(kNaN)), (Answers{0, 0}));
+    EXPECT_EQ(Values(*RealMatrix({{kNan, 1}})->Gt(0.0)), (Answers{0, 1}));
+    EXPECT_EQ(Values(*RealMatrix({{0, 1}})->Gt(kNan)), (Answers{0, 0}));
     EXPECT_EQ(Values(*RealMatrix({{0.0, -0.0}})->Gt(-0.0)), (Answers{0, 0}));
 }
 

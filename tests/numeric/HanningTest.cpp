@@ -1,13 +1,13 @@
 #include "base/Cosine.h"
 #include "base/Numbers.h"
 #include "numeric/Matrices.h"
+#include "support/EdgeNumbers.h"
 #include "support/Raised.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <random>
 
 namespace lumora {
@@ -162,7 +162,6 @@ TEST(HanningNormaliz, StopsAtAPeakThatDoesNotFall)
     // Three samples begin at an even place: they meet an odd peak, and miss an even one.
     EXPECT_NEAR(Pressed(SilenceWith(10, 5, 2.0), 3)->Real(1, 5), 0.9, 1e-14);
     EXPECT_EQ(Raised([] { Pressed(SilenceWith(10, 6, 2.0), 3); }), 5);
-    constexpr double kInfinity = std::numeric_limits<double>::infinity();
     EXPECT_EQ(Raised([] { Pressed(SilenceWith(1000, 500, kInfinity), 101); }), 5);
     EXPECT_EQ(Raised([] { Pressed(SilenceWith(1000, 501, -kInfinity), 101); }), 5);
 }

@@ -1,19 +1,17 @@
 #include "numeric/Matrices.h"
 #include "numeric/PairScan.h"
 #include "numeric/Random.h"
+#include "support/EdgeNumbers.h"
 #include "support/Raised.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 
 namespace lumora {
 namespace {
 
 using namespace test;
-
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 TEST(Max, OfEqualElementsIsFirstFoundAtTheFirst)
 {
@@ -158,12 +156,12 @@ TEST(Order, OfNegatedElementsIsTheOppositeOne)
 
 TEST(Order, LetsANaNStandOnlyWhereItComesFirst)
 {
-    const Ref<clsMatrix> m = RealMatrix({{5, 7}, {kNaN, 1}});
+    const Ref<clsMatrix> m = RealMatrix({{5, 7}, {kNan, 1}});
     EXPECT_EQ(m->Min(), 1);
     EXPECT_EQ(m->Max(), 7);
     EXPECT_EQ(Values(*m->MinDim(1.0)), (std::vector<double>{5, 1}));
     EXPECT_TRUE(std::isnan(m->MinDim(2.0)->Real(2, 1)));
-    EXPECT_TRUE(std::isnan(RealMatrix({{kNaN, 1}, {2, 3}})->Max()));
+    EXPECT_TRUE(std::isnan(RealMatrix({{kNan, 1}, {2, 3}})->Max()));
 }
 
 TEST(Order, KeepsTheFirstOfTwoZeros)
@@ -239,7 +237,7 @@ TEST(Pairwise, ComparesEachElementWithANumber)
     EXPECT_EQ(Values(*RealMatrix({{1}, {5}})->MinNum(2.5)), (std::vector<double>{1, 2.5}));
     EXPECT_EQ(Values(*RealMatrix({{1}, {5}})->MaxRNum(2.5)), (std::vector<double>{2.5, 5}));
     EXPECT_EQ(ShapeOf(*RealMatrix({{1}, {5}})->MaxRNum(2.5)), Sized(2, 1));
-    EXPECT_EQ(Values(*RealMatrix({{kNaN, 1}})->MinNum(kNaN))[1], 1);
+    EXPECT_EQ(Values(*RealMatrix({{kNan, 1}})->MinNum(kNan))[1], 1);
 }
 
 TEST(Pairwise, RoundsANumberThatWinsAmongWholeNumbers)

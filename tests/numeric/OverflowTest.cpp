@@ -1,4 +1,5 @@
 #include "numeric/Matrices.h"
+#include "support/EdgeNumbers.h"
 #include "support/Raised.h"
 
 #include <gtest/gtest.h>
@@ -9,33 +10,34 @@
 namespace lumora::test {
 namespace {
 
-constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
-constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
 constexpr double kInfinite = std::numeric_limits<double>::infinity();
 
 TEST(Overflow, OfWholeNumbersStartsOneBeyondTheRange)
 {
-    const auto most = LongMatrix({{kMost}});
-    const auto least = LongMatrix({{kLeast}});
-    EXPECT_EQ(Values(*most->PlusL(*LongMatrix({{0}}))), (std::vector<std::int32_t>{kMost}));
+    const auto most = LongMatrix({{kMost32}});
+    const auto least = LongMatrix({{kLeast32}});
+    EXPECT_EQ(Values(*most->PlusL(*LongMatrix({{0}}))), (std::vector<std::int32_t>{kMost32}));
     EXPECT_EQ(Raised([&] { most->PlusL(*LongMatrix({{1}})); }), 6);
-    EXPECT_EQ(Values(*least->MinusL(*LongMatrix({{0}}))), (std::vector<std::int32_t>{kLeast}));
+    EXPECT_EQ(Values(*least->MinusL(*LongMatrix({{0}}))), (std::vector<std::int32_t>{kLeast32}));
     EXPECT_EQ(Raised([&] { least->MinusL(*LongMatrix({{1}})); }), 6);
     EXPECT_EQ(Raised([&] { least->TimesL(*LongMatrix({{-1}})); }), 6);
     EXPECT_EQ(Raised([&] { LongMatrix({{65536}})->MtimesLongNum(32768); }), 6);
     EXPECT_EQ(Values(*LongMatrix({{-65536}})->MtimesLongNum(32768)),
-              (std::vector<std::int32_t>{kLeast}));
+              (std::vector<std::int32_t>{kLeast32}));
 }
 
 TEST(Overflow, OfWholeProductsIsLookedForAtEveryPartialSum)
 {
     // The whole sum would fit; the sum up to the second product does not.
-    const auto row = LongMatrix({{kMost, 1, -1}});
+    const auto row = LongMatrix({{kMost32, 1, -1}});
     EXPECT_EQ(Raised([&] { row->MtimesL(*LongMatrix({{1}, {1}, {1}})); }), 6);
     // Neither does a single product, although another would take it back.
-    EXPECT_EQ(Raised([&] { LongMatrix({{kMost, kMost}})->MtimesL(*LongMatrix({{2}, {-2}})); }), 6);
+    EXPECT_EQ(Raised([&] {
+                  LongMatrix({{kMost32, kMost32}})->MtimesL(*LongMatrix({{2}, {-2}}));
+              }),
+              6);
     EXPECT_EQ(Values(*row->MtimesL(*LongMatrix({{1}, {-1}, {-1}}))),
-              (std::vector<std::int32_t>{kMost}));
+              (std::vector<std::int32_t>{kMost32}));
 }
 
 TEST(Overflow, OfFloatsIsAnErrorInEveryElement)

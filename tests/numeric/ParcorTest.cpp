@@ -1,4 +1,5 @@
 #include "numeric/Sounds.h"
+#include "support/EdgeNumbers.h"
 #include "support/Raised.h"
 
 #include <gtest/gtest.h>
@@ -14,9 +15,6 @@ namespace {
 
 using namespace test;
 
-constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
-constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
-
 /// What an analysis answers and what it leaves in the caller's variables.
 struct Analysis {
     Shape shape{};
@@ -31,9 +29,9 @@ void PrintTo(const Analysis& analysis, std::ostream* out)
     PrintTo(analysis.shape, out);
 }
 
-using Member = Variant (clsMatrix::*)(std::int32_t, std::int32_t&, std::int32_t&) const;
+using Analyser = Variant (clsMatrix::*)(std::int32_t, std::int32_t&, std::int32_t&) const;
 
-Analysis Analysed(const clsMatrix& sound, Member member, std::int32_t order, std::int32_t window,
+Analysis Analysed(const clsMatrix& sound, Analyser member, std::int32_t order, std::int32_t window,
                   std::int32_t shift)
 {
     const Variant held = (sound.*member)(order, window, shift);
@@ -239,7 +237,7 @@ TEST(Parcor, OfAFrameOfNoMoreSamplesThanCoefficientsIsZero)
 TEST(Parcor, OfFewerThanTenSamplesIsOneMessage)
 {
     const Sound nine = SpeechLike(9, 1);
-    for (const Member member : {&clsMatrix::Parcor_Burg, &clsMatrix::Parcor_Burg1})
+    for (const Analyser member : {&clsMatrix::Parcor_Burg, &clsMatrix::Parcor_Burg1})
         for (const Ref<clsMatrix>& sound :
              {RowOf(nine), ColumnOf(nine), Shaped(Sound(450), 9, 50), MakeRef<clsMatrix>()}) {
             MessageRecorder messages;
@@ -273,14 +271,19 @@ TEST(Parcor, StopsWhereThereIsNoFrame)
         int error;
     };
     const Case cases[] = {
-        {2, 10, 1, 11},     {2, 2, 0, 11},      {2, 1, 0, 9},        {2, 4, 1, 11},
-        {0, 0, 0, 9},       {-1, 0, 0, 9},      {0, 20, 10, 9},      {-3, 20, 10, 9},
-        {2, -1, 0, 9},      {2, -60, 20, 9},    {2, -7, -3, 9},      {2, 20, -2, 9},
-        {2, 20, -1, 9},     {2, 20, -100, 9},   {2, kLeast, 0, 9},   {2, kLeast, 5, 9},
-        {2, 20, kLeast, 9}, {2, 21, kLeast, 6}, {kLeast, 20, 10, 9}, {2, kLeast, kLeast, 9},
+        {2, 10, 1, 11},        {2, 2, 0, 11},
+        {2, 1, 0, 9},          {2, 4, 1, 11},
+        {0, 0, 0, 9},          {-1, 0, 0, 9},
+        {0, 20, 10, 9},        {-3, 20, 10, 9},
+        {2, -1, 0, 9},         {2, -60, 20, 9},
+        {2, -7, -3, 9},        {2, 20, -2, 9},
+        {2, 20, -1, 9},        {2, 20, -100, 9},
+        {2, kLeast32, 0, 9},   {2, kLeast32, 5, 9},
+        {2, 20, kLeast32, 9},  {2, 21, kLeast32, 6},
+        {kLeast32, 20, 10, 9}, {2, kLeast32, kLeast32, 9},
     };
     const Sound speech = SpeechLike(60, 1);
-    for (const Member member : {&clsMatrix::Parcor_Burg, &clsMatrix::Parcor_Burg1})
+    for (const Analyser member : {&clsMatrix::Parcor_Burg, &clsMatrix::Parcor_Burg1})
         for (Case c : cases) {
             SCOPED_TRACE("order " + std::to_string(c.order) + ", window " +
                          std::to_string(c.window) + ", shift " + std::to_string(c.shift));
@@ -338,9 +341,9 @@ TEST(Parcor, LeavesTheSoundAlone)
 TEST(Parcor, LongestNumbersOfSamplesAreCutToTheSound)
 {
     const Analysis found =
-        Analysed(*RowOf(SpeechLike(60, 1)), &clsMatrix::Parcor_Burg, 4, kMost, kMost);
+        Analysed(*RowOf(SpeechLike(60, 1)), &clsMatrix::Parcor_Burg, 4, kMost32, kMost32);
     EXPECT_EQ(found.window, 60);
-    EXPECT_EQ(found.shift, kMost);
+    EXPECT_EQ(found.shift, kMost32);
 }
 
 } // namespace

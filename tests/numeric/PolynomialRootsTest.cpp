@@ -1,12 +1,12 @@
 #include "numeric/PolynomialRoots.h"
 #include "numeric/Matrices.h"
+#include "support/EdgeNumbers.h"
 #include "support/Raised.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <numbers>
 #include <random>
 
@@ -14,8 +14,6 @@ namespace lumora {
 namespace {
 
 using namespace test;
-
-constexpr double kEpsilon = std::numeric_limits<double>::epsilon();
 
 using Many = std::vector<Complex>;
 using Wide = std::complex<long double>;
@@ -273,7 +271,6 @@ TEST(PolynomialRoots, OfWhatIsNoVectorShowItAndAreEmpty)
 
 TEST(PolynomialRoots, StopAtWhatHasNoRoots)
 {
-    constexpr double kInfinity = std::numeric_limits<double>::infinity();
     EXPECT_EQ(Raised([] { PolynomialRoots(RealMatrix({{1, kInfinity, 2}})); }), 5);
     EXPECT_EQ(Raised([] { PolynomialRoots(RealMatrix({{NAN, 1}})); }), 5);
     EXPECT_EQ(Raised([] { PolynomialRoots(ComplexMatrix({{1, {0, -kInfinity}}})); }), 5);

@@ -1,28 +1,15 @@
 #include "numeric/Predicates.h"
 
 #include "numeric/Matrices.h"
+#include "support/EdgeNumbers.h"
 #include "support/Raised.h"
 
 #include <gtest/gtest.h>
 
-#include <limits>
-
 namespace lumora {
 namespace {
 
-using test::LongMatrix;
-using test::MessageRecorder;
-using test::Plain;
-using test::Raised;
-using test::RealMatrix;
-using test::Row;
-using test::Scalar;
-using test::Shown;
-using test::Table;
-using test::Values;
-
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
+using namespace test;
 
 TEST(IsNumeric, TakesNumbersAndTextsThatSpellOne)
 {
@@ -52,7 +39,7 @@ TEST(IsWholeNumber, TakesNumbersWithoutFraction)
                                  Variant(1e300), Variant(9007199254740993.0)})
         EXPECT_TRUE(IsWholeNumber(whole));
     for (const Variant& other : {Variant(), Variant(0.5), Variant(-1e-300), Variant("1.5"),
-                                 Variant("x"), Variant(kNaN), Variant(4503599627370495.5)})
+                                 Variant("x"), Variant(kNan), Variant(4503599627370495.5)})
         EXPECT_FALSE(IsWholeNumber(other));
 }
 
@@ -67,7 +54,7 @@ TEST(IsTwoDimensional, AsksForASecondDimension)
 
 TEST(IsNumericArray, WantsANumberInEveryElement)
 {
-    EXPECT_TRUE(IsNumericArray(Row<double>({0.5, kNaN})));
+    EXPECT_TRUE(IsNumericArray(Row<double>({0.5, kNan})));
     EXPECT_TRUE(IsNumericArray(Array<std::uint8_t>(2, 2)));
     EXPECT_TRUE(IsNumericArray(Row<std::string>({"1", "-2.5"})));
     EXPECT_TRUE(IsNumericArray(Table<Variant>({{1, "2"}, {3.5, Date{1.0}}})));
@@ -85,7 +72,7 @@ TEST(IsIntegerArray, WantsAWholeNumberInEveryElement)
     EXPECT_TRUE(IsIntegerArray(Row<std::string>({"1", "2e2"})));
     EXPECT_TRUE(IsIntegerArray(Row<double>({kInfinity}))); // it equals its own integer part
     for (const Variant& other :
-         {Variant(Row<double>({1.0, 0.5})), Variant(Row<double>({kNaN})),
+         {Variant(Row<double>({1.0, 0.5})), Variant(Row<double>({kNan})),
           Variant(Row<double>({4503599627370495.5})), Variant(Row<double>({-0.25})),
           Variant(Row<std::string>({"1", "x"})), Variant(1)})
         EXPECT_FALSE(IsIntegerArray(other));
@@ -162,7 +149,7 @@ TEST(IsAllZero, AsksAValueOrEveryElement)
           Variant(Row<Variant>({0, "0", Scalar(0, 0)})), Variant(Scalar(0, 0))})
         EXPECT_TRUE(IsAllZero(zero));
     for (const Variant& other :
-         {Variant(), Variant(1e-300), Variant("zero"), Variant(kNaN),
+         {Variant(), Variant(1e-300), Variant("zero"), Variant(kNan),
           Variant(Row<double>({0.0, 1e-300})), Variant(Row<Variant>({0, Variant()})),
           Variant(Row<Ref<clsComplex>>({Scalar(0, 1)})), Variant(RealMatrix({{0.0}}))})
         EXPECT_FALSE(IsAllZero(other));

@@ -1,4 +1,5 @@
 #include "numeric/Sounds.h"
+#include "support/EdgeNumbers.h"
 #include "support/Raised.h"
 
 #include <gtest/gtest.h>
@@ -12,8 +13,6 @@ namespace lumora {
 namespace {
 
 using namespace test;
-
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 /// A vector that counts from 1 and knows its ends.
 struct Counted {
@@ -171,7 +170,7 @@ TEST(PredLat, OfAMatrixOrNothingIsAnError)
     EXPECT_EQ(Raised([] { RealMatrix({{0.1, 0.2}, {0.3, 0.4}})->Pred_Lat(); }), 9);
     EXPECT_EQ(Raised([] { MakeRef<clsMatrix>()->Pred_Lat(); }), 9);
     EXPECT_EQ(Raised([] { RealMatrix({{1e200, 1e200}})->Pred_Lat(); }), 6);
-    EXPECT_TRUE(std::isnan(RealMatrix({{kNaN, 0.5}})->Pred_Lat()->Real(1, 1)));
+    EXPECT_TRUE(std::isnan(RealMatrix({{kNan, 0.5}})->Pred_Lat()->Real(1, 1)));
 }
 
 TEST(ParcorResid, IsThePlainFilterBitForBit)
@@ -292,7 +291,7 @@ TEST(ParcorResid, OverflowIsAnErrorUnlessTheSamplesAreNoNumbers)
 {
     const Ref<clsMatrix> one = RealMatrix({{-1.0}});
     EXPECT_EQ(Raised([&] { RealMatrix({{1.5e308, 1.5e308}})->Parcor_Resid(*one, *one, 2); }), 6);
-    const Ref<clsMatrix> passed = RealMatrix({{1.0, kNaN, 1.0, 1.0}})->Parcor_Resid(*one, *one, 4);
+    const Ref<clsMatrix> passed = RealMatrix({{1.0, kNan, 1.0, 1.0}})->Parcor_Resid(*one, *one, 4);
     EXPECT_TRUE(std::isnan(passed->Real(1, 3)));
     EXPECT_EQ(passed->Real(1, 4), 2.0);
 }
@@ -398,7 +397,7 @@ TEST(ParcorDirect, StopsAtATubeWithoutEnd)
     EXPECT_EQ(direct({0.5, 0.5, 0.5, 0.5}, 2.0, 9), 0);
     EXPECT_EQ(direct({0.5, 0.5, 0.5, 0.5}, 0.0, 5), 5);
     EXPECT_EQ(direct({0.5, 0.5, 0.5, 0.5}, -1.0, 5), 5);
-    EXPECT_EQ(direct({0.5, 0.5, 0.5, 0.5}, kNaN, 5), 5);
+    EXPECT_EQ(direct({0.5, 0.5, 0.5, 0.5}, kNan, 5), 5);
     EXPECT_EQ(direct({0.5, 0.5, 0.5, 0.5}, 1e9, 5), 6);
     EXPECT_EQ(direct({0.5, 0.5, 0.5, 0.5}, 1e8, 5), 9);
     // A reflection of 2 makes a filter that grows without end.

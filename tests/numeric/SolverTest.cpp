@@ -1,11 +1,11 @@
 #include "numeric/Matrices.h"
+#include "support/EdgeNumbers.h"
 #include "support/Raised.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <random>
 
 namespace lumora {
@@ -13,8 +13,6 @@ namespace {
 
 using namespace test;
 
-constexpr double kEpsilon = std::numeric_limits<double>::epsilon();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 const ShownMessage kSingularShown = Plain("Matrix is singular to working precision.");
 
 class RandomSystems {

@@ -1,18 +1,16 @@
 #include "numeric/Matrices.h"
 #include "numeric/Random.h"
+#include "support/EdgeNumbers.h"
 #include "support/Raised.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 
 namespace lumora {
 namespace {
 
 using namespace test;
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 /// A result that is a matrix of these rows.
 void ExpectMatrix(const Variant& result, Rows<double> rows)

@@ -3,6 +3,7 @@
 #include "overfilter/OverSounds.h"
 #include "overfilter/PlainRemoveOver.h"
 #include "support/MessageRecorder.h"
+#include "support/VectorWidths.h"
 
 #include <algorithm>
 #include <bit>
@@ -75,12 +76,7 @@ protected:
     Noise noise{2026};
     MessageRecorder messages;
 };
-constexpr const char* kWidthNames[] = {"Baseline", "Avx2", "Avx512"};
-INSTANTIATE_TEST_SUITE_P(, AgainstPlain,
-                         testing::ValuesIn(VectorWidths().begin(), VectorWidths().end()),
-                         [](const auto& one) {
-                             return kWidthNames[static_cast<std::size_t>(one.param)];
-                         });
+INSTANTIATE_TEST_SUITE_P(, AgainstPlain, EveryWidth(), WidthName);
 
 TEST_P(AgainstPlain, SoundsOfEveryRateAndDrive)
 {

@@ -14,10 +14,6 @@ namespace {
 
 using namespace test;
 
-constexpr int kOverflow = static_cast<int>(ErrorNumber::Overflow);
-constexpr int kSubscript = static_cast<int>(ErrorNumber::Subscript);
-constexpr int kDivision = static_cast<int>(ErrorNumber::DivisionByZero);
-
 class RemoveOver : public testing::Test {
 protected:
     /// A filter for small sizes by hand.

@@ -1,6 +1,7 @@
 #include "overfilter/OverFilterKernels.h"
 
 #include "overfilter/OverSounds.h"
+#include "support/VectorWidths.h"
 
 #include <bit>
 #include <cmath>
@@ -13,12 +14,7 @@ namespace {
 using namespace test;
 
 class OverFilterKernel : public testing::TestWithParam<VectorWidth> {};
-constexpr const char* kWidthNames[] = {"Baseline", "Avx2", "Avx512"};
-INSTANTIATE_TEST_SUITE_P(, OverFilterKernel,
-                         testing::ValuesIn(VectorWidths().begin(), VectorWidths().end()),
-                         [](const auto& one) {
-                             return kWidthNames[static_cast<std::size_t>(one.param)];
-                         });
+INSTANTIATE_TEST_SUITE_P(, OverFilterKernel, EveryWidth(), WidthName);
 
 TEST_P(OverFilterKernel, SumsEveryLagInRisingOrderOfTime)
 {
