@@ -30,8 +30,10 @@ if(LUMORA_CLANG_TIDY)
   # The digest makes a changed .clang-tidy a changed command, so that every file is looked at again.
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/.clang-tidy)
   file(MD5 ${PROJECT_SOURCE_DIR}/.clang-tidy TIDY_DIGEST)
+  # Told where its file is: the one that several sources are compiled as lies elsewhere.
   set(CMAKE_CXX_CLANG_TIDY
-    ${CLANG_TIDY} --quiet --warnings-as-errors=* --extra-arg=-DTIDY_DIGEST_${TIDY_DIGEST})
+    ${CLANG_TIDY} --quiet --config-file=${PROJECT_SOURCE_DIR}/.clang-tidy
+    --warnings-as-errors=* --extra-arg=-DTIDY_DIGEST_${TIDY_DIGEST})
 endif()
 
 if(LUMORA_BUILD_FUZZ)
