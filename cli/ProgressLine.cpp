@@ -73,7 +73,8 @@ void ProgressLine::Draw()
 {
     constexpr std::chrono::milliseconds kPeriod{100};
     const Clock::time_point now = Clock::now();
-    if (!shown_ || now - last_ < kPeriod) return;
+    const bool work_is_left = ended_ < weights_.size();
+    if (!shown_ || !work_is_left || now - last_ < kPeriod) return;
     last_ = now;
     drawn_ = true;
     const double elapsed = std::chrono::duration<double>(now - start_).count();

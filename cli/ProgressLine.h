@@ -24,7 +24,7 @@ public:
     /// The part of a file that is done; a file that has ended counts as done.
     void Set(std::size_t file, double fraction) { fractions_[file] = fraction; }
     void End(std::size_t file);
-    /// Draws, but no more than ten times a second.
+    /// Draws while a file is left to end, but no more than ten times a second.
     void Draw();
     /// Takes the line away, to be called ahead of any other output.
     void Clear();

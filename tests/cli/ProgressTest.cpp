@@ -5,8 +5,10 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <functional>
 #include <pty.h>
 #include <regex>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace lumora::test {
@@ -45,6 +47,23 @@ private:
     int reader_ = -1, screen_ = -1;
 };
 
+/// What a process of its own draws whose standard error is a terminal.
+std::string DrawnBy(const std::function<void()>& draw)
+{
+    Terminal terminal;
+    const pid_t process = fork();
+    if (process == 0) {
+        dup2(terminal.Screen(), STDERR_FILENO);
+        setenv("TERM", "xterm", 1);
+        draw();
+        _exit(EXIT_SUCCESS);
+    }
+    int status = -1;
+    waitpid(process, &status, 0);
+    EXPECT_EQ(status, 0);
+    return terminal.Drawn();
+}
+
 class Progress : public testing::Test {
 protected:
     Progress() : in_(folder_.Write("in.wav", TuneWave(2000000, 1, 8000))) {}
@@ -78,6 +97,25 @@ TEST_F(Progress, ATerminalShowsABarWithTheTimeLeftAndIsLeftClean)
     const std::regex bar("\r\\[#* *\\] +[0-9]+ %  (-:--|[0-9]+:[0-9][0-9]) left\x1b\\[K");
     EXPECT_TRUE(std::regex_search(drawn, bar)) << drawn;
     EXPECT_TRUE(std::regex_replace(drawn, bar, "") == "\r\x1b[K") << drawn;
+}
+
+TEST(ProgressLine, DrawsWhileAFileIsLeftAndNotOnceAllHaveEnded)
+{
+    const std::string one_ended = DrawnBy([] {
+        ProgressLine line({5, 15});
+        line.End(0);
+        line.Draw();
+    });
+    const std::regex bar("\r\\[#{6} {20}\\]  25 %  [0-9]+:[0-9][0-9] left  1 of 2 files\x1b\\[K");
+    EXPECT_TRUE(std::regex_match(one_ended, bar)) << one_ended;
+    const std::string all_ended = DrawnBy([] {
+        ProgressLine line({5, 15});
+        line.End(0);
+        line.End(1);
+        line.Draw();
+        line.Clear();
+    });
+    EXPECT_EQ(all_ended, "");
 }
 
 TEST_F(Progress, IsDrawnWhileStretchesAreRebuiltToo)
