@@ -1,6 +1,7 @@
 #include "cli/ArrCommand.h"
 
 #include "base/ByteStream.h"
+#include "base/OrOutOfMemory.h"
 #include "cli/ArrReport.h"
 #include "cli/Csv.h"
 #include "cli/Explained.h"
@@ -151,7 +152,7 @@ int RunArrCommand(const ArrRequest& request)
     std::string error;
     Fields fields = Fields::object();
     try {
-        fields = Work(request);
+        fields = OrOutOfMemory([&] { return Work(request); });
     } catch (const JobFailure& failure) {
         error = failure.what();
     } catch (const RunTimeError& failure) {

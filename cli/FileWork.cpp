@@ -1,6 +1,7 @@
 #include "cli/FileWork.h"
 
 #include "audio/WaveStream.h"
+#include "base/OrOutOfMemory.h"
 #include "base/RunTimeError.h"
 #include "cli/Conversion.h"
 #include "cli/EnginePath.h"
@@ -135,7 +136,7 @@ void FileJob::Discard() const
 void RunFileJob(const FileJob& job, const FileWork& work, JobLink& link)
 {
     try {
-        FileRunner(job, work, link).Run();
+        OrOutOfMemory([&] { FileRunner(job, work, link).Run(); });
     } catch (const RunTimeError& error) {
         link.Failed(Explained(error));
     } catch (const std::exception& failure) {

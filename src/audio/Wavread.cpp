@@ -6,6 +6,7 @@
 #include "audio/WaveMessages.h"
 #include "base/Messages.h"
 #include "base/Numbers.h"
+#include "base/OrOutOfMemory.h"
 #include "base/Text.h"
 #include "numeric/Predicates.h"
 #include "numeric/Stores.h"
@@ -203,8 +204,9 @@ WavreadResult wavread(const std::string& FileName, const Variant& Arg1, const Va
     if (!result.Info.Message.empty()) return result;
     result.Rate = result.Info.nSamplesPerSec;
     Reading reading(file.Number(), result);
-    result.Info.Message =
-        wish.kind == Wish::Kind::Size ? reading.ReadSize() : reading.ReadSamples(wish);
+    result.Info.Message = OrOutOfMemory([&] {
+        return wish.kind == Wish::Kind::Size ? reading.ReadSize() : reading.ReadSamples(wish);
+    });
     return result;
 }
 

@@ -12,8 +12,8 @@ namespace lumora {
 
 /// What wavread tells about a file.
 struct WavreadResult {
-    /// The header; its Message is empty, or the text of the message that was shown. TotalSamples
-    /// are the frames that the data size makes.
+    /// The header; its Message is empty, or the text of the message that was shown (for a missing
+    /// file empty too). TotalSamples are the frames that the data size makes.
     WaveInfo Info;
     std::int32_t Rate = 0;  ///< frames a second
     std::int32_t Bits = -1; ///< the read status: bits a sample, or -1 for a failure

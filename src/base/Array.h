@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/LargeMemory.h"
+#include "base/OrOutOfMemory.h"
 #include "base/RunTimeError.h"
 
 #include <algorithm>
@@ -8,9 +9,7 @@
 #include <cstdint>
 #include <limits>
 #include <memory>
-#include <new>
 #include <span>
-#include <stdexcept>
 #include <utility>
 #include <vector>
 
@@ -148,17 +147,13 @@ private:
         std::int64_t size = 0;
         if (__builtin_mul_overflow(first.Count(), second.Count(), &size))
             Raise(ErrorNumber::OutOfMemory);
-        try {
+        OrOutOfMemory([&] {
             const auto count = static_cast<std::size_t>(size);
             if (count > store_.capacity())
                 Store(count).swap(store_);
             else
                 store_.resize(count);
-        } catch (const std::bad_alloc&) {
-            Raise(ErrorNumber::OutOfMemory);
-        } catch (const std::length_error&) {
-            Raise(ErrorNumber::OutOfMemory);
-        }
+        });
         dimensions_ = dimensions;
         bounds_[0] = first;
         bounds_[1] = second;

@@ -1,4 +1,5 @@
 #include "base/ByteStream.h"
+#include "base/OrOutOfMemory.h"
 #include "numeric/ArrFile.h"
 #include "numeric/ArrFormat.h"
 #include "numeric/Stores.h"
@@ -188,7 +189,8 @@ Variant ReadArrFrom(const std::string& path, std::optional<std::int32_t> First,
     const OpenFile file(fopen_Rudo(path, "rb"));
     if (file.Failed()) Raise(ErrorNumber::BadFileNumber, path);
     const ArrReader reader(file.Number(), path);
-    return AskType.IsEmpty() ? reader.Contents(First, Last) : reader.NameOfContents();
+    if (!AskType.IsEmpty()) return reader.NameOfContents();
+    return OrOutOfMemory([&] { return reader.Contents(First, Last); });
 }
 
 Variant ReadArr(std::string& FileName, std::optional<std::int32_t> First,

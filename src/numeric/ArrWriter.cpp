@@ -1,5 +1,6 @@
 #include "base/ByteStream.h"
 #include "base/Numbers.h"
+#include "base/OrOutOfMemory.h"
 #include "base/Text.h"
 #include "numeric/ArrFile.h"
 #include "numeric/ArrFormat.h"
@@ -167,7 +168,7 @@ private:
 
 std::int32_t WriteArrTo(const std::string& path, const Variant& Obj, const std::string& TypeName)
 {
-    const ArrImage image(Obj, TypeName);
+    const ArrImage image = OrOutOfMemory([&] { return ArrImage(Obj, TypeName); });
     OpenFile file(fopen(path, "wb"));
     if (file.Failed()) Raise(ErrorNumber::PathFileAccess, path);
     image.Write(file.Number());

@@ -33,13 +33,13 @@ bool LookBaseline(const double* x, std::size_t count)
 
 } // namespace
 
-bool AllFinite(const double* x, std::size_t count)
+bool AllFinite(std::span<const double> x)
 {
 #if defined(__x86_64__)
     static const auto look = WidestVectors() == VectorWidth::Baseline ? LookBaseline : LookAvx2;
-    return look(x, count);
+    return look(x.data(), x.size());
 #else
-    return LookBaseline(x, count);
+    return LookBaseline(x.data(), x.size());
 #endif
 }
 

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
 namespace lumora {
 
@@ -21,7 +22,7 @@ inline bool Finite(ComplexValue z)
     return std::isfinite(z.re) && std::isfinite(z.im);
 }
 
-/// No infinity and no NaN among `count` values.
-bool AllFinite(const double* x, std::size_t count);
+/// No infinity and no NaN among the values.
+bool AllFinite(std::span<const double> x);
 
 } // namespace lumora

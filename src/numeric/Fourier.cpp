@@ -168,7 +168,7 @@ void FirstStage(std::span<const double> x, double* to, std::size_t size)
 
 bool FiniteUpTo(std::span<const double> x, std::size_t size)
 {
-    return AllFinite(x.data(), std::min(x.size(), size));
+    return AllFinite(x.first(std::min(x.size(), size)));
 }
 
 Ref<clsMatrix> PaddedZeros(std::span<const double> zeros, std::int32_t n_fft)

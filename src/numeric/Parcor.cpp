@@ -31,7 +31,7 @@ public:
     {
         std::fill(k.begin(), k.end(), 0.0);
         if (k.size() >= frame.size()) return; // no sample has so many before it
-        finite_ = AllFinite(frame.data(), frame.size());
+        finite_ = AllFinite(frame);
         std::copy(frame.begin(), frame.end(), forward_.Span().begin());
         std::copy(frame.begin(), frame.end(), backward_.Span().begin());
         for (std::size_t m = 1; m <= k.size(); ++m) {

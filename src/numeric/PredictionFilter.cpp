@@ -73,8 +73,7 @@ void Predict(const Frames& frames, std::size_t order, const double* x,
 template <class... Operands>
 Ref<clsMatrix> Filtered(Array<double> result, const Operands&... operands)
 {
-    const auto finite = [](std::span<const double> x) { return AllFinite(x.data(), x.size()); };
-    if (!finite(result.Span()) && (finite(operands) && ...)) Raise(ErrorNumber::Overflow);
+    if (!AllFinite(result.Span()) && (AllFinite(operands) && ...)) Raise(ErrorNumber::Overflow);
     return NewMatrix<clsMatrix>(std::move(result));
 }
 

@@ -32,9 +32,9 @@ public:
         double* const out = store_.Span().data();
         for (std::size_t k = from; k < to; ++k)
             out[k] = f(k);
-        return AllFinite(out + from, to - from);
+        return AllFinite({out + from, to - from});
     }
-    bool Finite() const { return AllFinite(store_.Span().data(), Size()); }
+    bool Finite() const { return AllFinite(store_.Span()); }
     double* Data() { return store_.Span().data(); }
     Ref<clsMatrix> Object() && { return NewMatrix<clsMatrix>(std::move(store_)); }
 
@@ -89,12 +89,9 @@ public:
             re[k] = z.re;
             im[k] = z.im;
         }
-        return AllFinite(re + from, to - from) && AllFinite(im + from, to - from);
+        return AllFinite({re + from, to - from}) && AllFinite({im + from, to - from});
     }
-    bool Finite() const
-    {
-        return AllFinite(re_.Span().data(), Size()) && AllFinite(im_.Span().data(), Size());
-    }
+    bool Finite() const { return AllFinite(re_.Span()) && AllFinite(im_.Span()); }
     double* RealData() { return re_.Span().data(); }
     double* ImageData() { return im_.Span().data(); }
     Ref<clsComplexMatrix> Object() &&

@@ -42,9 +42,10 @@ std::span<const double> SamplesOf(const clsMatrix& vector)
 double DotProduct(const clsMatrix& row, std::int32_t first, std::int32_t second,
                   const Variant& length)
 {
-    const std::int32_t count = CLng(length.Number());
     const Sheet<double> sheet = SheetOf(row);
-    if (sheet.rows != 1 || count < 1) return 0.0;
+    if (sheet.rows != 1) return 0.0;
+    const std::int32_t count = CLng(length.Number());
+    if (count < 1) return 0.0;
     if (sheet.IsScalar()) Raise(ErrorNumber::Subscript);
     const std::span<const double> x = Stretch(sheet.values, first, count);
     const std::span<const double> y = Stretch(sheet.values, second, count);

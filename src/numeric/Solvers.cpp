@@ -1,3 +1,4 @@
+#include "base/OrOutOfMemory.h"
 #include "numeric/Elimination.h"
 #include "numeric/NumericMessages.h"
 #include "numeric/Results.h"
@@ -20,11 +21,6 @@ bool IsSquare(const Sheet<double>& sheet, const char* message)
     return false;
 }
 
-bool IsFinite(const Sheet<double>& sheet)
-{
-    return AllFinite(sheet.values.data(), sheet.Size());
-}
-
 /// What is left above the diagonal, from the last row to the first; x stands in the right-hand
 /// column in the end.
 void SubstituteBack(Elimination& work, std::size_t n)
@@ -45,7 +41,7 @@ Ref<clsMatrix> clsMatrix::SolutionOfSistem(const clsMatrix& a) const
     if (!IsSquare(square, kSolutionSquare)) return {};
     if (right.rows != square.rows || right.columns != 1) Raise(ErrorNumber::Subscript);
     const std::size_t n = right.Size();
-    Elimination work(square, 1);
+    Elimination work = OrOutOfMemory([&] { return Elimination(square, 1); });
     for (std::size_t i = 0; i < n; ++i)
         work.At(i, n) = right[i];
     if (!work.Run(Elimination::Reach::Below)) {
@@ -55,7 +51,8 @@ Ref<clsMatrix> clsMatrix::SolutionOfSistem(const clsMatrix& a) const
     SubstituteBack(work, n);
     Result<clsMatrix> x({right.rows, 1});
     const bool finite = x.Fill(0, n, [&](std::size_t i) { return work.At(i, n); });
-    if (!finite && IsFinite(square) && IsFinite(right)) Raise(ErrorNumber::Overflow);
+    if (!finite && AllFinite(square.values) && AllFinite(right.values))
+        Raise(ErrorNumber::Overflow);
     return std::move(x).Object();
 }
 
@@ -64,7 +61,7 @@ Ref<clsMatrix> clsMatrix::Inv() const
     const Sheet<double> square = SheetOf(*this);
     if (!IsSquare(square, kInvSquare)) return {};
     const auto n = static_cast<std::size_t>(square.rows);
-    Elimination work(square, n);
+    Elimination work = OrOutOfMemory([&] { return Elimination(square, n); });
     for (std::size_t i = 0; i < n; ++i)
         work.At(i, n + i) = 1.0;
     if (!work.Run(Elimination::Reach::Others)) {
@@ -75,7 +72,7 @@ Ref<clsMatrix> clsMatrix::Inv() const
     const auto element = [&](std::size_t k) {
         return work.At(k % n, n + k / n) / work.At(k % n, k % n);
     };
-    if (!inverse.Fill(0, n * n, element) && IsFinite(square)) Raise(ErrorNumber::Overflow);
+    if (!inverse.Fill(0, n * n, element) && AllFinite(square.values)) Raise(ErrorNumber::Overflow);
     return std::move(inverse).Object();
 }
 
@@ -83,9 +80,9 @@ Ref<clsMatrix> clsMatrix::LeastSqures(const clsMatrix& a) const
 {
     if (size1 == 1 && size2 > 1) return Transpose()->LeastSqures(*a.Transpose());
     const Ref<clsMatrix> t = Transpose();
+    const Ref<clsMatrix> b = t->MtimesR(*this);
     const Ref<clsMatrix> c = t->MtimesR(a);
-    if (!c) return {};
-    return t->MtimesR(*this)->SolutionOfSistem(*c);
+    return c ? b->SolutionOfSistem(*c) : Ref<clsMatrix>();
 }
 
 } // namespace lumora

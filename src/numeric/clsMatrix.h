@@ -29,7 +29,8 @@ public:
 
     // Operations on the receiver as a vector of samples, which stays as it is. A vector is a row or
     // a column unless one of them is named; another matrix in its place is error 9. Samples and
-    // frames count from 1. Error 6 where finite samples overflow.
+    // frames count from 1. Errors: 6 where finite samples overflow, 13 for a Variant that is no
+    // number.
 
     /// As Compression_Expansion, with round(|koef|*N) samples, halves to the even number; fewer
     /// than one is the case of "it is  very Small". What lies behind the last sample repeats it.
@@ -87,8 +88,8 @@ public:
     /// transposed first), frames as in Parcor_Resid. Q_T scales the length of the vocal tract: the
     /// areas of P + 1 tubes become those of about P*Q_T + 1 by Compression_Expansion, and the order
     /// of the filter is P*Q_T + 1, rounded. The last samples of VectInit, as many as that, stand
-    /// before the first one. Errors: 5 for a Q_T not above 0, 11 for a reflection of -1, and those
-    /// of Parcor_Resid.
+    /// before the first one. Errors: 5 for a Q_T not above 0, 11 for a reflection of -1 and for
+    /// neighbouring tubes of opposite areas, and those of Parcor_Resid.
     Ref<clsMatrix> Parcor_Direct(const clsMatrix& Parcor, const clsMatrix& VectInit, double Q_T,
                                  std::int32_t Nint) const;
     /// Residual of linear prediction, a row as long as the receiver. Parcor has P rows and a column
@@ -343,7 +344,8 @@ public:
     /// by row (2); the default and another dimention as for MinDim. Sum gives a plain number where
     /// one sum is all there is, and otherwise one element for each column or row; the others keep
     /// the sizes. Across a vector all three give a copy. `s` names a new matrix. Elements are added
-    /// from the first to the last. Errors: 9 without elements, 6 on overflow.
+    /// from the first to the last. Errors: 9 without elements, 6 on overflow, 13 for a dimention
+    /// that is no number.
     Variant Sum(const Variant& dimention = {}, const std::string& s = {}) const;
     Variant Reverse(const Variant& dimention = {}, const std::string& s = {}) const;
     Variant Cumsum(const Variant& dimention = {}, const std::string& s = {}) const;
@@ -352,7 +354,7 @@ public:
     /// (J. H. Wilkinson, J. ACM 8, 1961), and the inverse matrix. "Error using ==> SolutionOfSistem
     /// Matrix must be square." ("==> inv"), "Matrix is singular to working precision."; empty after
     /// them. A pivot counts as zero as told at Elimination. Errors: 9 for another a and without
-    /// elements, 6 on overflow.
+    /// elements, 6 on overflow, 7 for more elements than memory holds beside them.
     Ref<clsMatrix> SolutionOfSistem(const clsMatrix& a) const;
     Ref<clsMatrix> Inv() const;
     /// The column x for which the squares of receiver*x - a have the smallest sum, from the normal

@@ -38,6 +38,7 @@ TEST(ScallProd, IsZeroUnlessTheReceiverIsARow)
 {
     EXPECT_EQ(RealMatrix({{1}, {2}})->ScallProd(1, 1, 2.0), 0);
     EXPECT_EQ(RealMatrix({{1, 2}, {3, 4}})->ScallProd(1, 1, 2.0), 0);
+    EXPECT_EQ(RealMatrix({{1}, {2}})->ScallProd(1, 1, "no number"), 0); // which nobody looks at
     EXPECT_EQ(MakeRef<clsMatrix>()->ScallProd(1, 1, 1.0), 0);
 }
 

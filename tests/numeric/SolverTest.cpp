@@ -307,6 +307,8 @@ TEST(LeastSqures, OfOtherSizesShowsItAndIsEmpty)
     EXPECT_FALSE(RealMatrix({{1, 2, 3}})->LeastSqures(*RealMatrix({{1}, {2}, {3}})));
     EXPECT_EQ(recorder.Take(), (Shown{inner, inner}));
     EXPECT_EQ(Raised([] { clsMatrix().LeastSqures(*RealMatrix({{1}})); }), 9);
+    // The receiver's own products come first, and overflow.
+    EXPECT_EQ(Raised([] { RealMatrix({{1e200}, {1}})->LeastSqures(*RealMatrix({{1}})); }), 6);
 }
 
 } // namespace
