@@ -8,7 +8,7 @@ MessageAnswer QuietMessages::Show(const std::string& text, const std::string&, M
                                   MessageIcon)
 {
     const std::size_t body = text.rfind('\n') + 1; // title, rule and body are lines of their own
-    bodies_.emplace_back(TrimBlanks(std::string_view(text).substr(body)));
+    if (!first_) first_ = TrimBlanks(std::string_view(text).substr(body));
     return MessageAnswer::Ok;
 }
 

@@ -3,6 +3,7 @@
 #include "cli/Sounds.h"
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 #include <cmath>
 #include <filesystem>
@@ -88,27 +89,57 @@ TEST_F(Limits, MoreChunksThanTheEngineCountsAreRefusedAhead)
 #define LUMORA_SANITIZED 0
 #endif
 #if !LUMORA_SANITIZED
+void HaveSmallMemory()
+{
+    const rlimit limit = {8 << 20, 8 << 20};
+    setrlimit(RLIMIT_DATA, &limit);
+}
+
+TEST_F(Limits, ATableThatMemoryDoesNotHoldIsAClearLine)
+{
+    const std::string in = folder_.Write("in.csv", "");
+    fs::resize_file(in, 30 << 20);
+    const Names words = {"arr", "from-csv", in, folder_ / "out.arr", "--as", "matrix"};
+    const CommandResult result = Lumora(words, {.before = HaveSmallMemory});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.err, "lumora: " + in +
+                              ": there is not enough memory; end other programs and run it "
+                              "again\n");
+    EXPECT_EQ(NamesIn(folder_.Path()), Names{"in.csv"});
+}
+
 TEST_F(Limits, AnHourNeedsNoMoreMemoryThanAMinute)
 {
-    const auto small_memory = [] {
-        const rlimit limit = {8 << 20, 8 << 20};
-        setrlimit(RLIMIT_DATA, &limit);
-    };
     constexpr std::int64_t kHour = 3600LL * 8000 * 2;
     const std::string as_it_is;
     const std::string converted = Chunk("LIST", "INFO");
     for (const std::string& ahead : {as_it_is, converted}) {
         const std::string in = Silence({.rate_hz = 8000}, kHour, ahead);
-        const CommandResult result = Run(in, {.before = small_memory});
+        const CommandResult result = Run(in, {.before = HaveSmallMemory});
         EXPECT_EQ(result.status, 0) << result.err;
         EXPECT_EQ(result.err.empty(), ahead.empty()) << result.err;
         EXPECT_EQ(fs::file_size(folder_ / "out.wav"), 58U + kHour);
         fs::remove(folder_ / "out.wav");
-        const CommandResult filtered = Declip(in, {.before = small_memory});
+        const CommandResult filtered = Declip(in, {.before = HaveSmallMemory});
         EXPECT_EQ(filtered.status, 0) << filtered.err;
         EXPECT_EQ(fs::file_size(folder_ / "out.wav"), 44U + kHour);
         fs::remove(folder_ / "out.wav");
     }
+}
+
+TEST_F(Limits, NorDoRegionsWithoutNumberThatCannotBePredicted)
+{
+    // Of a constant nothing can be solved for: each peak has a message of its own.
+    std::vector<std::int16_t> samples(6000000, 16384);
+    for (std::size_t k = 30; k < samples.size(); k += 60)
+        samples[k] = 29000;
+    const std::string in =
+        folder_.Write("in.wav", PlainWave({.rate_hz = 4000}, BytesOfSamples(samples)));
+    const CommandResult result =
+        Lumora({"declip", in, folder_ / "out.wav", "--json"}, {.before = HaveSmallMemory});
+    EXPECT_EQ(result.status, 0) << result.err;
+    const auto document = nlohmann::json::parse(result.out).at("results").at(0);
+    EXPECT_GT(document.at("regions_left_unpredicted"), 99000);
 }
 #endif
 
