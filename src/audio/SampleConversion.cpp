@@ -1,6 +1,7 @@
 #include "audio/SampleConversion.h"
 
 #include "base/RunTimeError.h"
+#include "base/Vectors.h"
 
 #include <cstring>
 #include <limits>
@@ -9,7 +10,6 @@ namespace lumora {
 
 namespace {
 
-using Doubles = double __attribute__((vector_size(32)));
 using Masks = std::int64_t __attribute__((vector_size(32)));
 using Longs = std::int32_t __attribute__((vector_size(16)));
 using Shorts = std::int16_t __attribute__((vector_size(8)));
@@ -35,18 +35,11 @@ constexpr double kHighest = 32767.0;
         out[i] = (in[i] - 128) / 128.0;
 }
 
-[[gnu::always_inline]] inline Doubles Load(const double* from)
-{
-    Doubles values;
-    std::memcpy(&values, from, sizeof values);
-    return values;
-}
-
 /// Rounds four samples to whole numbers and notes in `outside` which do not fit, a NaN included.
-[[gnu::always_inline]] inline Longs Quantise(Doubles samples, Masks& outside)
+[[gnu::always_inline]] inline Longs Quantise(Four samples, Masks& outside)
 {
-    const Doubles scaled = samples * kFullScale;
-    const Doubles rounded = (scaled + kRounder) - kRounder;
+    const Four scaled = samples * kFullScale;
+    const Four rounded = (scaled + kRounder) - kRounder;
     outside |= ~((rounded >= kLowest) & (rounded <= kHighest));
     return __builtin_convertvector(rounded, Longs);
 }
@@ -70,7 +63,8 @@ constexpr double kHighest = 32767.0;
     Masks outside{};
     std::size_t i = 0;
     for (; i + kLanes <= count; i += kLanes) {
-        const Shorts packed = __builtin_convertvector(Quantise(Load(in + i), outside), Shorts);
+        const Shorts packed =
+            __builtin_convertvector(Quantise(Load<Four>(in + i), outside), Shorts);
         std::memcpy(out + i, &packed, sizeof packed);
     }
     bool fits = None(outside);
@@ -85,8 +79,8 @@ constexpr double kHighest = 32767.0;
     Masks outside{};
     std::size_t i = 0;
     for (; i + kLanes <= count; i += kLanes) {
-        const Longs l = Quantise(Load(left + i), outside);
-        const Longs r = Quantise(Load(right + i), outside);
+        const Longs l = Quantise(Load<Four>(left + i), outside);
+        const Longs r = Quantise(Load<Four>(right + i), outside);
         // Left in the low half of each pair of shorts: the order of the file.
         const Longs pairs = (l & 0xFFFF) | (r << 16);
         std::memcpy(out + 2 * i, &pairs, sizeof pairs);

@@ -65,7 +65,6 @@ public:
     /// With a row per channel the samples stand in the order of the file already.
     bool ByFrames() const { return sheet_.rows <= 2 && sheet_.columns >= 3; }
     std::int32_t Channels() const { return ByFrames() ? sheet_.rows : sheet_.columns; }
-    std::int32_t Frames() const { return ByFrames() ? sheet_.columns : sheet_.rows; }
 
 private:
     void Take(const Array<double>& array)
