@@ -1,6 +1,7 @@
 #include "cli/RebuiltPicture.h"
 
 #include "cli/Wording.h"
+#include "overfilter/OverFilterPlan.h"
 
 #include <algorithm>
 #include <array>
@@ -16,7 +17,6 @@ constexpr double kHeader = 104.0;
 constexpr double kCellHeight = 330.0;
 constexpr double kMargin = 20.0;
 constexpr double kSmall = 13.0;
-constexpr double kLimit = 0.8;
 
 // Of the channels, blue and orange; pale and wide before, dark and narrow after. So they are told
 // apart by lightness too, and where curves are alike the one below shows beside the one above.
@@ -129,11 +129,11 @@ private:
     {
         DrawLevel(canvas, 0.0, kZeroPen);
         Label(canvas, 0.0);
-        const bool has_room = Y(kLimit) - Y(1.0) > kSmall;
+        const bool has_room = Y(kOverLimit) - Y(1.0) > kSmall;
         for (const double sign : {1.0, -1.0}) {
-            DrawLevel(canvas, sign * kLimit, kLimitPen);
+            DrawLevel(canvas, sign * kOverLimit, kLimitPen);
             DrawLevel(canvas, sign, kFullPen);
-            if (has_room) Label(canvas, sign * kLimit);
+            if (has_room) Label(canvas, sign * kOverLimit);
             Label(canvas, sign);
             const double step = std::max(0.5, NiceStep(top_level_ - 1.0, 4));
             for (int k = 1; 1.0 + k * step < top_level_; ++k)

@@ -5,6 +5,7 @@
 #include "base/RunTimeError.h"
 #include "base/Vectors.h"
 #include "numeric/NumericMessages.h"
+#include "overfilter/OverFilterPlan.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,8 +16,8 @@ namespace lumora {
 
 namespace {
 
-constexpr double kUpperLimit = 0.8;
-constexpr double kLowerLimit = -0.8;
+constexpr double kUpperLimit = kOverLimit;
+constexpr double kLowerLimit = -kOverLimit;
 constexpr double kHeadroom = 0.2;
 constexpr double kMostOut = 0.99;
 constexpr double kLargestCoef = 10.0;

@@ -1,5 +1,6 @@
 #include "overfilter/OverFilterPlan.h"
 
+#include "audio/FrameRule.h"
 #include "base/Numbers.h"
 #include "overfilter/ClsRemoveOverPolynom.h"
 
@@ -8,7 +9,7 @@ namespace lumora {
 OverFilterPlan OverFilterPlan::ForRate(std::int32_t rate_hz)
 {
     OverFilterPlan plan;
-    plan.TrainLen = CInt(220.0 * rate_hz / 22050.0);
+    plan.TrainLen = FrameLength(rate_hz);
     plan.GuardLen = CInt(plan.TrainLen / 3.0);
     plan.Order = CInt(12.0 * rate_hz / 22050.0);
     return plan;

@@ -6,6 +6,9 @@ namespace lumora {
 
 class ClsRemoveOverPolynom;
 
+/// A sample beyond plus or minus this part of full scale is over-driven.
+inline constexpr double kOverLimit = 0.8;
+
 /// Sizes of the over-range filter for a rate: about 10 ms must be clean around a region of at most
 /// 3.3 ms. Each is rounded to nearest, half to even. Of stereo these are interleaved samples.
 struct OverFilterPlan {

@@ -79,17 +79,21 @@ protected:
 TEST_F(RemoveOver, SizesByRate)
 {
     struct Row {
-        int rate, train, guard, order, buffer;
+        int rate, train, guard, order, buffer, centre;
     };
-    for (const Row& row :
-         {Row{8000, 80, 27, 4, 107}, Row{11025, 110, 37, 6, 147}, Row{22050, 220, 73, 12, 293},
-          Row{44100, 440, 147, 24, 587}, Row{48000, 479, 160, 26, 639}}) {
+    for (const Row& row : {Row{8000, 80, 27, 4, 107, 54}, Row{11025, 110, 37, 6, 147, 74},
+                           Row{22050, 220, 73, 12, 293, 147}, Row{44100, 440, 147, 24, 587, 294},
+                           Row{48000, 479, 160, 26, 639, 320}}) {
         const OverFilterPlan plan = OverFilterPlan::ForRate(row.rate);
         EXPECT_EQ(plan.TrainLen, row.train);
         EXPECT_EQ(plan.GuardLen, row.guard);
         EXPECT_EQ(plan.Order, row.order);
         SetUpForRate(filter, row.rate);
         EXPECT_EQ(filter.BufferLen(), row.buffer);
+        int handled_at = 0; // counted from 1
+        filter.Observe([&](const RebuiltRegion& region) { handled_at = region.buffer_start + 1; });
+        Out(InNoise({0.9}));
+        EXPECT_EQ(handled_at, row.centre);
     }
 }
 
