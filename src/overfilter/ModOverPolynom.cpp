@@ -1,5 +1,6 @@
 #include "overfilter/ModOverPolynom.h"
 
+#include "audio/WaveChunks.h"
 #include "audio/Wavwrite.h"
 #include "base/Paths.h"
 #include "numeric/clsMatrix.h"
@@ -20,6 +21,17 @@ std::string TemporaryPath(const std::string& source)
     const std::size_t folder = source.rfind('/') + 1; // 0 without a folder
     if (source.size() - folder < kEnding) Raise(ErrorNumber::InvalidCall, source);
     return source.substr(0, source.size() - kEnding) + "tmp.wav";
+}
+
+/// Is `source` a symbolic link that ends at `result`? To delete that would delete the recording.
+bool LinksTo(const std::string& source, const std::string& result)
+{
+    namespace fs = std::filesystem;
+    std::error_code missing;
+    const fs::path end = fs::canonical(WaveFileName(source), missing);
+    if (missing) return false;
+    const fs::path name = result;
+    return end == fs::canonical(name.parent_path() / ".", missing) / name.filename();
 }
 
 void DeleteFile(const std::string& name)
@@ -48,6 +60,7 @@ std::string RemoveOverFile(const std::string& SourcePath, std::int16_t& QualityF
     OverFilterHooks hooks = Hooks;
     hooks.Bar = Progress;
     std::string result = TemporaryPath(SourcePath);
+    if (LinksTo(SourcePath, result)) Raise(ErrorNumber::PathFileAccess, result);
     DeleteFile(result);
     OverFilterRun run(SourcePath, hooks);
     if (!run.HasSource()) return {};

@@ -23,8 +23,9 @@ namespace lumora {
 /// A sound of one or two frames is written as wavwrite takes a matrix of so few columns: with rows
 /// and columns exchanged.
 ///
-/// Errors: 5 for a file name of fewer than four characters; those of OverFilterRun; 7 for more
-/// samples than memory holds; 61, 70, 75 while writing. A file half written is removed.
+/// Errors: 5 for a file name of fewer than four characters; 75 where the source is a symbolic link
+/// to the temporary file; 70, 75 where an earlier one cannot be deleted; those of OverFilterRun; 7
+/// for more samples than memory holds; 61, 70, 75 while writing. A file half written is removed.
 std::string RemoveOverFile(const std::string& SourcePath, std::int16_t& QualityFlag,
                            ProgressBar* Progress = nullptr, const OverFilterHooks& Hooks = {});
 

@@ -35,9 +35,9 @@ using SampleSink = std::function<void(std::span<const double>)>;
 /// One WAVE file through the filter, in blocks of one second. Memory does not grow with its length.
 class OverFilterRun {
 public:
-    /// Reads the header and sets the filter up. Errors: 9 (no samples; another width than 8 or 16
-    /// bits; a rate below 919 Hz), 6 (a rate above 2.46 MHz), 7 (the file lacks more than 1.45
-    /// seconds of what its header promises), those of ReadWaveInfo.
+    /// Reads the header and sets the filter up; `hooks` has to outlive the run. Errors: 9 (no
+    /// samples; another width than 8 or 16 bits; a rate below 919 Hz), 6 (a rate above 2.46 MHz), 7
+    /// (the file lacks more than 1.45 seconds of what its header promises), those of ReadWaveInfo.
     OverFilterRun(const std::string& source, const OverFilterHooks& hooks);
 
     /// False if there is no source or its header is faulty; a message has told so.

@@ -6,8 +6,11 @@
 #include "support/Raised.h"
 #include "support/TempFolder.h"
 
+#include <algorithm>
+#include <array>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace lumora {
@@ -111,6 +114,49 @@ TEST_F(RemoveOverFileTest, DigitalSilenceStaysWithoutMessageAndOfGoodQuality)
     EXPECT_TRUE(BytesOf(result) == BytesOf(path));
 }
 
+TEST_F(RemoveOverFileTest, EachSampleOfSilenceBecomesADitherOfItsOwn)
+{
+    std::vector<int> numbers(300, 0);
+    numbers[100] = 1;
+    numbers[101] = -1;
+    const std::string path = folder.Write("song.wav", FileOf({1, 16, 8000, numbers}));
+    OverFilterHooks hooks;
+    hooks.Random = [k = 0U]() mutable { return std::array{0.0, 1.0, 0.75}[k++ % 3]; };
+    OverFilterRun run(path, hooks);
+    std::vector<double> out;
+    run.Run([&](std::span<const double> samples) { out.assign(samples.begin(), samples.end()); },
+            quality);
+    ASSERT_EQ(out.size(), numbers.size());
+    std::size_t drawn = 0;
+    for (std::size_t k = 0; k + 106 < numbers.size(); ++k) {
+        const double dither = std::array{-0.5e-9, 0.5e-9, 0.25e-9}[drawn % 3];
+        if (numbers[k] == 0) ++drawn;
+        EXPECT_DOUBLE_EQ(out[k + 106], numbers[k] == 0 ? dither : numbers[k] / 32768.0) << k;
+    }
+}
+
+TEST_F(RemoveOverFileTest, DitherMakesPeaksInSilenceFitToBeRebuilt)
+{
+    std::vector<int> numbers(4000, 0); // without dither these are a singular system
+    std::fill_n(numbers.begin() + 2000, 10, 30000);
+    EXPECT_EQ(RemoveOverFile(folder.Write("song.wav", FileOf({1, 16, 8000, numbers})), quality),
+              result);
+    EXPECT_EQ(quality, 1);
+}
+
+TEST_F(RemoveOverFileTest, TheOutputIsHeldOnceAndNothingElseThatGrows)
+{
+    constexpr std::int64_t kSamples = 4 << 20;
+    const std::string path = folder.Write("song.wav", PlainWave({}, "", 2 * kSamples));
+    std::filesystem::resize_file(path, 44 + 2 * kSamples); // silence that takes no room
+    rusage before = {};
+    getrusage(RUSAGE_SELF, &before);
+    EXPECT_EQ(RemoveOverFile(path, quality), result);
+    rusage after = {};
+    getrusage(RUSAGE_SELF, &after);
+    EXPECT_LT(after.ru_maxrss - before.ru_maxrss, (8 * kSamples >> 10) + 12 * 1024); // KiB
+}
+
 TEST_F(RemoveOverFileTest, TheSameRandomNumbersGiveTheSameFile)
 {
     const std::string path = SoundFile(20000, 3.0, 2);
@@ -196,6 +242,25 @@ TEST_F(RemoveOverFileTest, AnUnreadableSourceIsOneError)
     chmod(path.c_str(), 0);
     const PermissionsCount strict;
     ExpectError(70, path);
+}
+
+TEST_F(RemoveOverFileTest, ALinkToTheTemporaryFileIsNotRobbedOfItsEnd)
+{
+    const std::string bytes = FileOf(SourceOf(noise, 1, 16, 8000, 9000, 2.0));
+    folder.Write("songtmp.wav", bytes);
+    std::filesystem::create_symlink("songtmp.wav", folder / "song.wav");
+    EXPECT_EQ(Raised([&] { RemoveOverFile(folder / "song.wav", quality); }), 75);
+    EXPECT_TRUE(BytesOf(result) == bytes);
+}
+
+TEST_F(RemoveOverFileTest, ALinkThatHasTheTemporaryNameIsReplaced)
+{
+    const std::string path = SoundFile(9000);
+    const std::string bytes = BytesOf(path);
+    std::filesystem::create_symlink("song.wav", result);
+    EXPECT_EQ(RemoveOverFile(path, quality), result);
+    EXPECT_TRUE(BytesOf(path) == bytes);
+    EXPECT_FALSE(std::filesystem::is_symlink(result));
 }
 
 TEST_F(RemoveOverFileTest, AFullDiskIsOneErrorAndLosesNothing)
