@@ -32,8 +32,9 @@ public:
         if (FlattensOneSide(report, file_.sound))
             file_.note(std::to_string(report.figures.single) + " of " +
                        std::to_string(report.figures.rebuilt) +
-                       " regions lie in one channel only, whose peaks are flattened at 0.8 and not "
-                       "rebuilt; split the channels into files of their own for that");
+                       " regions are single samples of one channel: such peaks are flattened at "
+                       "0.8 or left, not rebuilt; split the channels into files of their own for "
+                       "that");
         JobSummary summary = DeclipVerdict(report, file_.sound, length_);
         if (!file_.picture.empty()) summary.fields["picture"] = DrawPicture(report.figures);
         return summary;

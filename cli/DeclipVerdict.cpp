@@ -34,12 +34,21 @@ std::string LeftText(const OverFilterFigures& figures, const SoundShape& sound)
            why + ")";
 }
 
-std::string Line(const OverFilterReport& report, const SoundShape& sound)
+/// What went into the end of the source that stays in the filter; empty if nothing did.
+std::string BehindText(const OverFilterReport& report, const SoundShape& sound)
+{
+    if (report.regions_behind == 0) return {};
+    return "; " + RegionsText(report.regions_behind) + " more in the last " +
+           StreamText(report.BufferLen - 1, sound) + ", which come out only with --keep-length";
+}
+
+std::string LineOfWhatComesOut(const OverFilterReport& report, const SoundShape& sound)
 {
     const OverFilterFigures& figures = report.figures;
     if (figures.Regions() == 0)
-        return "good quality: nothing lies beyond 0.8 of full scale, so there was nothing to "
-               "rebuild";
+        return report.regions_behind == 0 ? "good quality: nothing lies beyond 0.8 of full scale, "
+                                            "so there was nothing to rebuild"
+                                          : "good quality: 0 regions rebuilt";
     std::string line = report.QualityGood != 0 ? "good quality: " : "low quality: ";
     line += RegionsText(figures.rebuilt) + " rebuilt" + LeftText(figures, sound);
     if (figures.crowded > 0)
@@ -76,12 +85,13 @@ JobSummary DeclipVerdict(const OverFilterReport& report, const SoundShape& sound
                          OverFilterLength length)
 {
     const OverFilterFigures& figures = report.figures;
-    return {Line(report, sound),
+    return {LineOfWhatComesOut(report, sound) + BehindText(report, sound),
             {{"quality", report.QualityGood != 0 ? "good" : "low"},
              {"regions_rebuilt", figures.rebuilt},
              {"regions_of_one_sample", figures.single},
              {"regions_left_too_long", figures.left_too_long},
              {"regions_left_unpredicted", figures.left_unpredicted},
+             {"regions_behind", report.regions_behind},
              {"crowded", figures.crowded},
              {"longest_region_samples", figures.longest_region},
              {"most_region_samples", OverFilterPlan::ForRate(sound.rate_hz).GuardLen},

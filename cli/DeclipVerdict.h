@@ -17,7 +17,7 @@ bool ExchangesChannels(const OverFilterReport& report, const SoundShape& sound,
                        OverFilterLength length);
 
 /// Most regions of a stereo file are single samples of the interleaved stream: only one channel at
-/// a time was over a limit, and its peaks came to lie on it.
+/// a time was over a limit, or each over another. Peaks came to lie on it or stay as they were.
 bool FlattensOneSide(const OverFilterReport& report, const SoundShape& sound);
 
 } // namespace lumora

@@ -64,6 +64,7 @@ public:
     void RemoveOver_Operation(const double& x, double& y);
 
     /// The same for a block of any length: out[k] is what in[k] gives. Both may be one memory.
+    /// Error 9 too where they differ in length.
     void Process(std::span<const double> in, std::span<double> out);
 
     std::int16_t BufferLen() const { return buffer_len_; }
@@ -72,6 +73,8 @@ public:
     /// 2N values for a region of N samples, from 0: 1, then the all-pole predictor's response.
     std::span<const double> ImpulseResp() const { return impulse_resp_; }
     const OverFilterFigures& Figures() const { return figures_; }
+    /// Regions on their way to the centre of the buffer, none of whose samples has left yet.
+    std::int64_t Waiting() const { return static_cast<std::int64_t>(regions_.Count()); }
     /// Is called on every region that is rebuilt, in its order in the stream. SetUp keeps it.
     void Observe(RegionObserver observer) { observer_ = std::move(observer); }
 

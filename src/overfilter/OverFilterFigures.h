@@ -7,7 +7,7 @@
 namespace lumora {
 
 /// What the over-range filter has done since its SetUp. Regions that are still on their way to the
-/// centre of the buffer do not count yet.
+/// centre of the buffer do not count yet (ClsRemoveOverPolynom::Waiting).
 struct OverFilterFigures {
     std::int64_t rebuilt = 0;          ///< regions rebuilt
     std::int64_t single = 0;           ///< of these, regions of one sample, put onto the limit

@@ -98,6 +98,7 @@ OverFilterReport RemoveOverStream(const std::string& SourcePath, const std::stri
     report.end = complete ? OverFilterReport::End::Complete : OverFilterReport::End::Cancelled;
     report.QualityGood = run.Filter().QualityGood(); // the silence at the end counts too
     report.figures = run.Filter().Figures();
+    report.regions_behind = run.Filter().Waiting();
     if (!complete) return report;
     file.Close();
     half_written.Keep();

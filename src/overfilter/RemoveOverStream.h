@@ -22,13 +22,15 @@ struct OverFilterReport {
     std::int16_t QualityGood = 0;
     std::int16_t BufferLen = 0; ///< in interleaved samples; the delay is one less
     OverFilterFigures figures;
+    /// Regions in the last BufferLen - 1 samples of the source, which do not come out AsTold.
+    std::int64_t regions_behind = 0;
 };
 
 /// RemoveOverFile with memory that does not grow with the length: each second of sound is written
 /// when it has left the filter, the header last, when all its sizes are true. The target gets the
 /// bytes of RemoveOverFile's result; only a sound of one or two frames differs, which has here the
-/// channels of its source. An ordinary file of the target's name is replaced. After a cancel, a
-/// message or an error there is no target.
+/// channels of its source. An ordinary file of the target's name is replaced. A fault of
+/// the source leaves it as it was; once the target is open, a cancel or an error leaves none.
 ///
 /// Messages: those of ReadWaveInfo, and " Cannot open  WAV file for output." under "Error using
 /// fopen.". Errors: 75 where the target is the source; those of OverFilterRun; 61, 70, 75 while
