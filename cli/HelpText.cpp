@@ -24,7 +24,7 @@ FILE is a matrix file (.arr), CSV a table of comma-separated cells in UTF-8.
 
   lumora arr show keys.arr
   lumora arr to-csv keys.arr keys.csv
-  lumora arr from-csv keys.csv keys.arr --as string)";
+  lumora arr from-csv keys.csv new.arr --as string)";
 
 HelpText::HelpText()
 {
