@@ -54,6 +54,25 @@ protected:
         return read.out;
     }
 
+    /// How many curves (lines of more points than a mark has) there are of each colour: the left or
+    /// only channel before and after, then the right one. A curve after that lies wholly on the one
+    /// before is no curve of its own.
+    std::string CurvesIn(const std::string& svg) const
+    {
+        const std::string script =
+            "import sys, xml.etree.ElementTree as tree\n"
+            "paths = list(tree.parse(sys.argv[1]).iter('{http://www.w3.org/2000/svg}path'))\n"
+            "curves = lambda colour: [p.get('d') for p in paths if p.get('d').count('L') > 20\n"
+            "    and 'stroke:rgb(%s)' % colour in p.get('style', '')]\n"
+            "sides = [('60%,80%,96%', '0%,36%,64%'), ('99%,76%,55%', '78%,29%,0%')]\n"
+            "for before, after in sides:\n"
+            "    first, then = curves(before), curves(after)\n"
+            "    print(len(first), sum(a != b for a, b in zip(first, then)), end=' ')";
+        const CommandResult read = RunningCommand({"python3", "-c", script, svg}).Wait();
+        EXPECT_EQ(read.status, 0) << read.err;
+        return read.out;
+    }
+
     TempFolder folder_;
 };
 
@@ -81,6 +100,16 @@ TEST_F(DeclipPicture, OfSvgIsWellFormedAndHasAPanelForEachStretchUpToSix)
             EXPECT_EQ(PanelsIn(folder_ / "out.svg"), panels);
         }
     }
+}
+
+TEST_F(DeclipPicture, ShowsEachChannelBeforeAndAfterInEveryPanel)
+{
+    folder_.Write("in.wav", PeakyWave(4));
+    ASSERT_EQ(Draw("out.svg").status, 0);
+    EXPECT_EQ(CurvesIn(folder_ / "out.svg"), "4 4 0 0 ");
+    folder_.Write("in.wav", PeakyWave(2, 2));
+    ASSERT_EQ(Draw("out.svg", {"--force"}).status, 0);
+    EXPECT_EQ(CurvesIn(folder_ / "out.svg"), "2 2 2 2 ");
 }
 
 TEST_F(DeclipPicture, ChangesNothingInTheResult)

@@ -115,6 +115,17 @@ TEST(HanningNormaliz, FollowsThePlainStepsToTheLastBit)
         }
 }
 
+TEST(HanningNormaliz, TakesTheFirstOfEqualPeaks)
+{
+    // Halves up to 3: there are many of each height, in one notch and far from each other.
+    const Ref<clsMatrix> x = Noise(5000, 3.0, 5);
+    for (std::int32_t i = 1; i <= 5000; ++i)
+        x->Real(1, i, std::nearbyint(2.0 * x->Real(1, i)) / 2.0);
+    for (const double samples : {20.0, 101.0, 2000.0})
+        EXPECT_EQ(Elements(Pressed(x, samples)->Elements()),
+                  Elements(PlainSteps(x->GetRealAll(), samples, 1000)));
+}
+
 TEST(HanningNormaliz, LeavesNoPeakAboveOne)
 {
     const Ref<clsMatrix> x = Noise(20000, 5.0, 77);

@@ -112,6 +112,25 @@ TEST(PolynomialRoots, OfARealPolynomialComeInConjugatePairs)
     EXPECT_LE(ErrorOn({{1, 2}, {1, -2}, {-0.5, 0.1}, {-0.5, -0.1}, 7}), 16 * kEpsilon);
 }
 
+TEST(PolynomialRoots, ComeInTheOrderInWhichTheyAreFound)
+{
+    // Of a quadratic the search ends at the root nearest to its start, which is 0.1 + 0.1i.
+    const Many roots = Values(*PolynomialRoots(AsRow(Product({{1, 1}, 0.2}))));
+    ASSERT_EQ(roots.size(), 2U);
+    EXPECT_LE(std::abs(roots[0] - Complex(0.2, 0.0)), 4 * kEpsilon);
+    EXPECT_LE(std::abs(roots[1] - Complex(1.0, 1.0)), 4 * kEpsilon);
+}
+
+TEST(PolynomialRoots, AreFoundFromTheCircleWhereTheFirstStartFails)
+{
+    // All derivatives but the last vanish at 0.1 + 0.1i, or nearly: the first step leads nowhere.
+    const Complex start(0.1, 0.1);
+    Many roots;
+    for (int k = 0; k < 5; ++k)
+        roots.push_back(start + 2.0 * std::polar(1.0, 0.3 + 2.0 * std::numbers::pi * k / 5));
+    EXPECT_LE(ErrorOn(roots), 16 * kEpsilon);
+}
+
 TEST(PolynomialRoots, OfComplexCoefficients)
 {
     EXPECT_LE(ErrorOn({{1, 1}, {-2, 0.5}, {0, -3}, {4, 4}}), 16 * kEpsilon);
