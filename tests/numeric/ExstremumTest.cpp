@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <string>
 #include <vector>
 
@@ -65,8 +64,7 @@ TEST(FoundIndexesExstremum, IsTheDefinitionOnRandomHills)
         const Sound x = Hills(random, random.Whole(3, 40));
         const double level = random.Number();
         for (const bool with_level : {false, true}) {
-            auto places = MaximaByDefinition(
-                x, with_level ? level : -std::numeric_limits<double>::infinity());
+            auto places = MaximaByDefinition(x, with_level ? level : -kInfinity);
             if (places.empty()) places = {0};
             const Variant asked = with_level ? Variant(level) : Variant();
             const Ref<clsLong> found = RowOf(x)->FoundIndexesExstremumInVector_Max(asked);
@@ -136,7 +134,7 @@ TEST(SortExstremumMax, PutsTheLargestFirstAndTheEarlierOfEqualOnes)
 
 TEST(SortExstremumMax, ShowsAtLeastOne)
 {
-    for (std::int32_t quantity : {0, -5, std::numeric_limits<std::int32_t>::min()}) {
+    for (std::int32_t quantity : {0, -5, kLeast32}) {
         EXPECT_EQ(Values(*RealMatrix({{0, 1, 0, 2, 0}})->SortExstremumMax(quantity)),
                   (Sound{2, 4}));
         EXPECT_EQ(quantity, 1);
@@ -153,8 +151,7 @@ TEST(SortExstremumMax, IsAStableSortByValue)
     for (int round = 0; round < 300; ++round) {
         SCOPED_TRACE("seed " + std::to_string(kSeed) + ", round " + std::to_string(round));
         const Sound x = Hills(random, random.Whole(3, 90));
-        std::vector<std::int32_t> places =
-            MaximaByDefinition(x, -std::numeric_limits<double>::infinity());
+        std::vector<std::int32_t> places = MaximaByDefinition(x, -kInfinity);
         const auto value = [&x](std::int32_t place) {
             return x[static_cast<std::size_t>(place) - 1];
         };

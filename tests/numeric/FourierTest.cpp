@@ -9,7 +9,6 @@
 
 #include <bit>
 #include <cmath>
-#include <limits>
 #include <numbers>
 #include <random>
 
@@ -335,7 +334,7 @@ TEST(Fftm, NeedsAPowerOfTwo)
 
 TEST(Fftm, StopsAtALengthBelowOne)
 {
-    for (const std::int32_t n_fft : {0, -1, -4, std::numeric_limits<std::int32_t>::min()}) {
+    for (const std::int32_t n_fft : {0, -1, -4, kLeast32}) {
         EXPECT_EQ(Raised([&] { RealMatrix({{1, 2}})->fftm(n_fft); }), 9);
         EXPECT_EQ(Raised([&] { RealMatrix({{0, 0}})->ifftm(n_fft); }), 9);
         EXPECT_EQ(Raised([&] { ComplexMatrix({{1, 2}})->fftm(n_fft); }), 9);

@@ -6,7 +6,6 @@
 
 #include <cmath>
 #include <cstdint>
-#include <limits>
 #include <string>
 #include <vector>
 
@@ -323,7 +322,7 @@ TEST(Parcor, OverflowIsAnErrorUnlessTheSamplesAreNoNumbers)
     EXPECT_EQ(Raised([&] { RowOf(lonely)->Parcor_Burg(2, window, shift); }), 6);
 
     Sound odd = SpeechLike(40, 1);
-    odd[35] = std::numeric_limits<double>::infinity();
+    odd[35] = kInfinity;
     const Analysis passed = Analysed(*RowOf(odd), &clsMatrix::Parcor_Burg, 2, 10, 10);
     EXPECT_TRUE(std::isfinite(passed.table[0]));
     EXPECT_TRUE(std::isnan(passed.table[6]));
