@@ -1,7 +1,7 @@
 // Matrix files of 100 MB beside a plain copy of such a file. Each round writes a new file where one
 // is written at all, so that both sides pay for its pages.
-#include "numeric/ArrFile.h"
 #include "numeric/clsMatrix.h"
+#include "numeric/files/ArrFile.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,4 +1,4 @@
-#include "cli/LargePages.h"
+#include "platform/LargePages.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,11 +1,8 @@
 #include "cli/Command.h"
 
-#include "cli/ArrCommand.h"
-#include "cli/DeclipCommand.h"
-#include "cli/InfoCommand.h"
-#include "cli/PitchCommand.h"
-#include "cli/StandardOutput.h"
-#include "cli/UsageError.h"
+#include "cli/CommandLine.h"
+#include "cli/terminal/StandardOutput.h"
+#include "cli/terminal/UsageError.h"
 
 #include <cstdlib>
 #include <exception>

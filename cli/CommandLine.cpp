@@ -1,7 +1,7 @@
 #include "cli/CommandLine.h"
 
-#include "cli/HelpText.h"
-#include "cli/UsageError.h"
+#include "cli/terminal/HelpText.h"
+#include "cli/terminal/UsageError.h"
 
 #include <algorithm>
 #include <cctype>

@@ -1,5 +1,5 @@
 #include "cli/Command.h"
-#include "cli/LargePages.h"
+#include "platform/LargePages.h"
 
 int main(int argc, char** argv)
 {

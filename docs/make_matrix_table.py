@@ -40,7 +40,7 @@ def group_of(name):
 
 def stopping(cls):
     """The members that compute and then fail: by their own line, or by the member they call."""
-    lines = (ROOT / "src" / "numeric" / f"{cls}Operators.cpp")
+    lines = (ROOT / "src" / "numeric" / "linear" / f"{cls}Operators.cpp")
     stops = set()
     if lines.exists():
         bodies = re.findall(rf"{cls}::(\w+) *\(.*return (.*);", lines.read_text())

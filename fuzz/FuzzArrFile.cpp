@@ -5,8 +5,8 @@
 // Input: First and Last (32 bits each), then the file.
 
 #include "base/ByteStream.h"
-#include "numeric/ArrFile.h"
 #include "numeric/Sheets.h"
+#include "numeric/files/ArrFile.h"
 #include "support/FuzzInput.h"
 
 #include <cstdlib>

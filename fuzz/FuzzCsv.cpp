@@ -3,8 +3,8 @@
 //
 // Input: one byte for the class, then the table.
 
-#include "cli/Csv.h"
-#include "cli/JobFailure.h"
+#include "cli/arr/Csv.h"
+#include "cli/terminal/JobFailure.h"
 #include "numeric/ObjectNumbers.h"
 #include "numeric/Operands.h"
 #include "support/FuzzInput.h"

@@ -4,15 +4,9 @@
 //
 // Input: three bytes a step (operation, two registers of eight), and as many as the step asks for.
 
-#include "numeric/AbsAny.h"
-#include "numeric/Cat.h"
 #include "numeric/CopyAny.h"
-#include "numeric/MinMax.h"
 #include "numeric/Operands.h"
 #include "numeric/Predicates.h"
-#include "numeric/Sqrt.h"
-#include "numeric/TimesAny.h"
-#include "numeric/TransposeAny.h"
 #include "numeric/clsComplex.h"
 #include "numeric/clsComplexMatrix.h"
 #include "numeric/clsLong.h"
@@ -20,6 +14,12 @@
 #include "numeric/clsMatrixComplex.h"
 #include "numeric/clsString.h"
 #include "numeric/clsVariant.h"
+#include "numeric/elementwise/AbsAny.h"
+#include "numeric/elementwise/Sqrt.h"
+#include "numeric/elementwise/TimesAny.h"
+#include "numeric/order/MinMax.h"
+#include "numeric/shaping/Cat.h"
+#include "numeric/shaping/TransposeAny.h"
 #include "support/FuzzInput.h"
 
 #include <algorithm>

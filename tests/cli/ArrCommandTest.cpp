@@ -1,6 +1,6 @@
 #include "cli/CommandRun.h"
-#include "numeric/ArrFile.h"
 #include "numeric/Matrices.h"
+#include "numeric/files/ArrFile.h"
 #include "support/LittleEndian.h"
 #include "support/TempFolder.h"
 

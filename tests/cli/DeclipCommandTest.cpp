@@ -1,10 +1,10 @@
 #include "cli/CommandRun.h"
-#include "cli/Conversion.h"
-#include "cli/SameBytes.h"
 #include "cli/Sounds.h"
 #include "overfilter/ModOverPolynom.h"
 #include "overfilter/RemoveOverStream.h"
+#include "platform/Conversion.h"
 #include "support/LittleEndian.h"
+#include "support/SameBytes.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>

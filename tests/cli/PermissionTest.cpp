@@ -1,6 +1,6 @@
 #include "cli/CommandRun.h"
-#include "cli/SameBytes.h"
 #include "cli/Sounds.h"
+#include "support/SameBytes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "cli/CommandRun.h"
-#include "cli/PitchSetting.h"
-#include "cli/SameBytes.h"
 #include "cli/Sounds.h"
+#include "cli/pitch/PitchSetting.h"
+#include "support/SameBytes.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>

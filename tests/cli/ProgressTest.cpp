@@ -1,6 +1,6 @@
 #include "cli/CommandRun.h"
-#include "cli/ProgressLine.h"
 #include "cli/Sounds.h"
+#include "cli/terminal/ProgressLine.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include <lumora/engine/ZELFunctions.h>
+#include <lumora/facade/ZELFunctions.h>
 
 #include <cstdio>
 #include <exception>

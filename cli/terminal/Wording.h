@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/FaultText.h"
+
+#include <cstdint>
+#include <string>
+
+namespace lumora {
+
+/// "4.350 s", "3:25.120", "1:00:00.000".
+std::string LengthText(std::int64_t samples, std::int32_t rate_hz);
+/// "219 samples (9.93 ms)".
+std::string SamplesText(std::int64_t samples, std::int32_t rate_hz);
+/// "+25.00", "-0.13", "0.00".
+std::string CentsText(double cents);
+/// The gain in dB of a division by `divisor`.
+double GainDb(double divisor);
+/// "divided by up to 1.250 (-1.94 dB)".
+std::string GainText(double divisor);
+/// The text with U+FFFD for bytes that are no UTF-8.
+std::string Utf8Text(const std::string& text);
+
+} // namespace lumora
