@@ -17,7 +17,7 @@ ComplexValue operator/(ComplexValue a, ComplexValue b)
     return {(a.re * ratio + a.im) / divisor, (a.im * ratio - a.re) / divisor};
 }
 
-double Abs(ComplexValue z)
+double Modulus(ComplexValue z)
 {
     return std::hypot(z.re, z.im);
 }
@@ -25,7 +25,7 @@ double Abs(ComplexValue z)
 ComplexValue SquareRoot(ComplexValue z)
 {
     if (z == ComplexValue{}) return {};
-    const double larger = std::sqrt(0.5 * Abs(z) + 0.5 * std::abs(z.re));
+    const double larger = std::sqrt(0.5 * Modulus(z) + 0.5 * std::abs(z.re));
     const double smaller = 0.5 * std::abs(z.im) / larger;
     const double re = z.re >= 0.0 ? larger : smaller;
     const double im = z.re >= 0.0 ? smaller : larger;
@@ -36,13 +36,13 @@ PolynomialValue ValueAt(const Polynomial& p, ComplexValue z)
 {
     // A complex product errs by sqrt(5) roundings and a sum by one; a rounding is half an epsilon.
     constexpr double kStepError = 2.0 * std::numeric_limits<double>::epsilon();
-    const double distance = Abs(z);
+    const double distance = Modulus(z);
     PolynomialValue at;
     for (const ComplexValue& coefficient : p) {
         at.bend = at.bend * z + at.slope;
         at.slope = at.slope * z + at.value;
         at.value = at.value * z + coefficient;
-        at.noise = at.noise * distance + Abs(at.value);
+        at.noise = at.noise * distance + Modulus(at.value);
     }
     at.noise *= kStepError;
     return at;
@@ -51,8 +51,8 @@ PolynomialValue ValueAt(const Polynomial& p, ComplexValue z)
 Polynomial DividedBy(const Polynomial& p, ComplexValue root)
 {
     const std::size_t degree = p.size() - 1;
-    const double all = std::log(Abs(p.back())) - std::log(Abs(p.front()));
-    const bool is_large = static_cast<double>(degree) * std::log(Abs(root)) > all;
+    const double all = std::log(Modulus(p.back())) - std::log(Modulus(p.front()));
+    const bool is_large = static_cast<double>(degree) * std::log(Modulus(root)) > all;
     if (is_large) {
         Polynomial quotient(p.begin() + 1, p.end());
         quotient.back() = ComplexValue{} - quotient.back() / root;

@@ -29,7 +29,7 @@ inline ComplexValue operator*(double a, ComplexValue b)
 /// By the ratio of the divisor's parts: no square overflows (R. L. Smith, CACM 5, 1962).
 ComplexValue operator/(ComplexValue a, ComplexValue b);
 /// Neither of these overflows unless its result does.
-double Abs(ComplexValue z);
+double Modulus(ComplexValue z);
 ComplexValue SquareRoot(ComplexValue z);
 
 /// A polynomial at one place.

@@ -30,7 +30,7 @@ ComplexValue LaguerreStep(double degree, const PolynomialValue& at)
     const ComplexValue root = SquareRoot((degree - 1.0) * (square - product));
     const ComplexValue plus = at.slope + root;
     const ComplexValue minus = at.slope - root;
-    return degree * at.value / (Abs(plus) > Abs(minus) ? plus : minus);
+    return degree * at.value / (Modulus(plus) > Modulus(minus) ? plus : minus);
 }
 
 std::optional<ComplexValue> RootFrom(const Polynomial& p, ComplexValue start, int rounds)
@@ -42,11 +42,11 @@ std::optional<ComplexValue> RootFrom(const Polynomial& p, ComplexValue start, in
         if (!Below(at.value, kLargestValue) || !Below(at.slope, kLargestValue) ||
             !Below(at.bend, kLargestValue))
             return std::nullopt;
-        if (Abs(at.value) <= at.noise) return z;
+        if (Modulus(at.value) <= at.noise) return z;
         const ComplexValue step = LaguerreStep(degree, at);
         if (!Below(step, kLongestStep)) return std::nullopt;
         z = z - step;
-        if (Abs(step) <= kTolerance * Abs(z)) return z;
+        if (Modulus(step) <= kTolerance * Modulus(z)) return z;
     }
     return std::nullopt;
 }
@@ -95,14 +95,14 @@ struct Correction {
 /// Beyond the unit circle from the polynomial of the inverse roots, whose powers stay small.
 Correction CorrectionAt(const Polynomial& p, const Polynomial& inverse, ComplexValue z)
 {
-    if (Abs(z) <= 1.0) {
+    if (Modulus(z) <= 1.0) {
         const PolynomialValue at = ValueAt(p, z);
-        return {at.value / at.slope, Abs(at.value) <= at.noise};
+        return {at.value / at.slope, Modulus(at.value) <= at.noise};
     }
     const auto degree = static_cast<double>(p.size() - 1);
     const ComplexValue w = ComplexValue{1.0, 0.0} / z;
     const PolynomialValue at = ValueAt(inverse, w);
-    return {at.value / (w * (degree * at.value - w * at.slope)), Abs(at.value) <= at.noise};
+    return {at.value / (w * (degree * at.value - w * at.slope)), Modulus(at.value) <= at.noise};
 }
 
 /// The pull of all other roots.
@@ -124,10 +124,11 @@ bool Improve(const Polynomial& p, const Polynomial& inverse, std::vector<Complex
     // Where rounding rules, only a simple root has steps below half of the digits: the last one
     // still sets its smaller part right.
     const double half_digits = std::sqrt(std::numeric_limits<double>::epsilon());
-    const double longest = at.lost ? half_digits * Abs(roots[k]) : kLongestStep * Abs(roots[k]);
+    const double longest =
+        at.lost ? half_digits * Modulus(roots[k]) : kLongestStep * Modulus(roots[k]);
     if (!Below(step, longest)) return false;
     roots[k] = roots[k] - step;
-    return !at.lost && Abs(step) > std::numeric_limits<double>::epsilon() * Abs(roots[k]);
+    return !at.lost && Modulus(step) > std::numeric_limits<double>::epsilon() * Modulus(roots[k]);
 }
 
 } // namespace

@@ -83,7 +83,7 @@ template <class S> Sizes SizesOfSheet(const S& sheet)
     return {sheet.rows, sheet.columns};
 }
 
-template <class A, class B> Variant Joint(Lines lines, const A& a, const B& b)
+template <class A, class B> Variant Joined(Lines lines, const A& a, const B& b)
 {
     using M = typename decltype(ClassOfJoint<A, B>())::type;
     const auto left = SheetOf(a);
@@ -94,10 +94,10 @@ template <class A, class B> Variant Joint(Lines lines, const A& a, const B& b)
 }
 
 /// Both are objects by now, and their sizes fit.
-Variant Joint(Lines lines, const Variant& a, const Variant& b)
+Variant Joined(Lines lines, const Variant& a, const Variant& b)
 {
     return WithObject(a, [&](const auto& left) {
-        return WithObject(b, [&](const auto& right) { return Joint(lines, left, right); });
+        return WithObject(b, [&](const auto& right) { return Joined(lines, left, right); });
     });
 }
 
@@ -115,7 +115,7 @@ Variant Cat(std::int16_t dimention, const Variant& A, const Variant& B)
     if (a_sizes == Sizes{}) return CopyAny(b);
     if (b_sizes == Sizes{}) return CopyAny(a);
     const Lines lines = dimention == 1 ? Lines::Rows : Lines::Columns;
-    if (Fit(lines, a_sizes, b_sizes)) return Joint(lines, a, b);
+    if (Fit(lines, a_sizes, b_sizes)) return Joined(lines, a, b);
     if (A.IsArray() || B.IsArray())
         return OrEmpty(TitledFailure(kErrorUsingCat, kCatDimensionsBlanks));
     return OrEmpty(TitledFailure(kErrorUsingCatStop, kCatDimensions));

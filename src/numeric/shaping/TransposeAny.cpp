@@ -40,7 +40,7 @@ Ref<clsString> CharactersBelowEachOther(const std::string& text)
 }
 
 /// An array in its own element type; anything else that comes here stays what it is.
-template <class T> Variant Turned(const T& value)
+template <class T> Variant TurnedArray(const T& value)
 {
     if constexpr (requires { value.Dimensions(); })
         return Transposed(SheetOf(value));
@@ -74,7 +74,7 @@ Variant TransposeAny(const Variant& x)
     }
     if (x.IsText()) return CharactersBelowEachOther(x.As<std::string>());
     if (!x.IsArray()) return x;
-    if (IsNumericArray(x)) return x.Visit([](const auto& array) { return Turned(array); });
+    if (IsNumericArray(x)) return x.Visit([](const auto& array) { return TurnedArray(array); });
     if (!IsComplexArray(x)) return Refused(kIncorrectArray);
     return NewMatrix<clsMatrixComplex>(CopiedObjects(Transposed(SheetOf(ComplexArray(x)))));
 }

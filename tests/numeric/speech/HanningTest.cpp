@@ -29,7 +29,7 @@ Ref<clsMatrix> SilenceWith(std::int32_t length, std::int32_t place, double peak)
     return x;
 }
 
-Ref<clsMatrix> Noise(std::int32_t length, double height, std::uint32_t seed)
+Ref<clsMatrix> UniformNoise(std::int32_t length, double height, std::uint32_t seed)
 {
     std::mt19937 generator(seed);
     std::uniform_real_distribution<double> value(-height, height);
@@ -109,7 +109,7 @@ TEST(HanningNormaliz, FollowsThePlainStepsToTheLastBit)
     for (const std::int32_t length : {1, 2, 10, 1024, 1025, 5000})
         for (const double samples : {4.0, 20.0, 101.0, 2000.0}) {
             SCOPED_TRACE(testing::Message() << length << " samples, notch of " << samples);
-            const Ref<clsMatrix> x = Noise(length, 3.0, static_cast<std::uint32_t>(length));
+            const Ref<clsMatrix> x = UniformNoise(length, 3.0, static_cast<std::uint32_t>(length));
             EXPECT_EQ(Elements(Pressed(x, samples)->Elements()),
                       Elements(PlainSteps(x->GetRealAll(), samples, 1000)));
         }
@@ -118,7 +118,7 @@ TEST(HanningNormaliz, FollowsThePlainStepsToTheLastBit)
 TEST(HanningNormaliz, TakesTheFirstOfEqualPeaks)
 {
     // Halves up to 3: there are many of each height, in one notch and far from each other.
-    const Ref<clsMatrix> x = Noise(5000, 3.0, 5);
+    const Ref<clsMatrix> x = UniformNoise(5000, 3.0, 5);
     for (std::int32_t i = 1; i <= 5000; ++i)
         x->Real(1, i, std::nearbyint(2.0 * x->Real(1, i)) / 2.0);
     for (const double samples : {20.0, 101.0, 2000.0})
@@ -128,7 +128,7 @@ TEST(HanningNormaliz, TakesTheFirstOfEqualPeaks)
 
 TEST(HanningNormaliz, LeavesNoPeakAboveOne)
 {
-    const Ref<clsMatrix> x = Noise(20000, 5.0, 77);
+    const Ref<clsMatrix> x = UniformNoise(20000, 5.0, 77);
     const std::vector<double> result = Values(*x->Hanning_Normaliz("unused", 10.0, 22050));
     EXPECT_LE(*std::max_element(result.begin(), result.end()), 1.0);
     EXPECT_GE(*std::min_element(result.begin(), result.end()), -1.0);
