@@ -56,8 +56,57 @@ install_missing() {
         { apt_get update && apt_get install --no-install-recommends "${missing[@]}"; }
 }
 
-# Configures the tree build/PRESET anew; what it has compiled already stays. Anew, because the
-# folder may have been moved, a preset changed, or a package come since the last time.
-configure() {
-    (cd "$root" && cmake --fresh --preset "$1")
+# Options for cmake that a script wants besides those of the preset.
+tree_options=()
+
+# Configures the tree build/PRESET if it was not set up here, with these options, and since what a
+# set-up depends on was last changed. What it has compiled already stays.
+set_up_tree() {
+    local mark=$root/build/$1/set-up.mark set_up_as="$root ${tree_options[*]-}" input fresh=1
+    [[ -e $mark && $(<"$mark") == "$set_up_as"* ]] || fresh=
+    for input in CMakePresets.json packaging/debian-packages.txt; do
+        [[ $mark -nt $root/$input ]] || fresh=
+    done
+    [[ $fresh ]] && return
+    quietly cmake --fresh -S "$root" -B "$root/build/$1" --preset "$1" "${tree_options[@]}" &&
+        printf '%s' "$set_up_as" >"$mark"
+}
+
+# Runs a command whose output matters only when it fails.
+quietly() {
+    local output
+    output=$("$@" 2>&1 </dev/null) || { printf '%s\n' "$output" >&2; return 1; }
+}
+
+# build_tree PRESET [TARGET...] sets build/PRESET up and builds it. What the compilers say is shown
+# only if the build fails.
+build_tree() {
+    local tree=$1
+    shift
+    (cd "$root" && set_up_tree "$tree") &&
+        NINJA_STATUS=$'\1%f %t ' ninja -C "$root/build/$tree" -j 2 "$@" </dev/null 2>&1 |
+        tell_progress "$tree"
+}
+
+# Tells how far a build of ninja is, on a terminal in a line that is drawn over, elsewhere in a line
+# at each quarter; then whatever else it said, if it failed.
+tell_progress() {
+    local line done_now all rest said='' told=0
+    while IFS= read -r line; do
+        if [[ $line != $'\1'* ]]; then
+            said+=$line$'\n'
+            continue
+        fi
+        read -r done_now all rest <<<"${line#?}"
+        if [[ -t 2 ]]; then
+            printf '\r\e[K%s: building %s of %s' "${0##*/}" "$done_now" "$all" >&2
+        elif ((done_now * 4 / all > told)); then
+            told=$((done_now * 4 / all))
+            say "building $1: $done_now of $all"
+        fi
+    done
+    [[ -t 2 ]] && printf '\r\e[K' >&2
+    [[ $said == *'ninja: '@(build stopped|error|fatal)* ]] || return 0
+    printf '%s' "$said" >&2
+    return 1
 }
