@@ -107,8 +107,10 @@ Variant Cat(std::int16_t dimention, const Variant& A, const Variant& B)
 {
     const Variant a = Joinable(A);
     const Variant b = Joinable(B);
-    if ((dimention != 1 && dimention != 2) || a.IsEmpty() || b.IsEmpty())
+    if (dimention != 1 && dimention != 2)
         return OrEmpty(TitledFailure(kErrorUsingCat, kCatArguments));
+    if (a.IsEmpty() || b.IsEmpty())
+        return OrEmpty(TitledFailure(kErrorUsingCat, kCatDimensionsBlanks));
     // A clsComplex, the one object without sizes, is 1 by 1.
     const Sizes a_sizes = SizesOfObject(a).value_or(Sizes{1, 1});
     const Sizes b_sizes = SizesOfObject(b).value_or(Sizes{1, 1});
@@ -116,8 +118,6 @@ Variant Cat(std::int16_t dimention, const Variant& A, const Variant& B)
     if (b_sizes == Sizes{}) return CopyAny(a);
     const Lines lines = dimention == 1 ? Lines::Rows : Lines::Columns;
     if (Fit(lines, a_sizes, b_sizes)) return Joined(lines, a, b);
-    if (A.IsArray() || B.IsArray())
-        return OrEmpty(TitledFailure(kErrorUsingCat, kCatDimensionsBlanks));
     return OrEmpty(TitledFailure(kErrorUsingCatStop, kCatDimensions));
 }
 

@@ -12,9 +12,9 @@ namespace lumora {
 /// clsComplexMatrix (clsMatrixComplex if one is of that class), two clsString a clsString, and any
 /// other pair with a clsString or clsVariant a clsVariant. Where an object has no elements the
 /// result is a copy of the other operand.
-/// Titled messages: "Error using Cat" for another dimention, for what is nothing to join, and for
-/// an array whose sizes do not fit; "Error using Cat." for objects and scalars whose sizes do not
-/// fit. Then a 1 by 1 matrix of -1 on OK, empty on Cancel.
+/// Titled messages: "Error using Cat." for sizes that do not fit; "Error using Cat" for another
+/// dimention and, with another text, for what is nothing to join. Then a 1 by 1 matrix of -1 on OK,
+/// empty on Cancel.
 Variant Cat(std::int16_t dimention, const Variant& A, const Variant& B);
 
 } // namespace lumora

@@ -12,10 +12,9 @@ namespace {
 
 using namespace test;
 
-const ShownMessage kArguments = Titled("Error using Cat", " CAT arguments  are not consistent.");
-const ShownMessage kObjectSizes =
-    Titled("Error using Cat.", " Matrix dimensions are not consistent.");
-const ShownMessage kArraySizes =
+const ShownMessage kDimention = Titled("Error using Cat", " CAT arguments  are not consistent.");
+const ShownMessage kSizes = Titled("Error using Cat.", " Matrix dimensions are not consistent.");
+const ShownMessage kNoOperand =
     Titled("Error using Cat", " Matrix dimensions  are not consistent.");
 
 std::string Told(double re, double im)
@@ -245,29 +244,30 @@ void ExpectFailure(std::int16_t dimention, const Variant& a, const Variant& b,
     EXPECT_EQ(cancel.Take(), Shown{message});
 }
 
-TEST(Cat, ShowsWhichKindOfOperandDoesNotFit)
+TEST(Cat, ShowsOneMessageForSizesThatDoNotFitWhateverTheOperands)
 {
     const Variant square = RealMatrix({{1, 2}, {3, 4}});
     const Variant row = RealMatrix({{1, 2, 3}});
     const Variant array = Row<double>({1.5, 2, 3});
     for (const std::int16_t dimention : {std::int16_t{1}, std::int16_t{2}}) {
-        ExpectFailure(dimention, square, row, kObjectSizes);
-        ExpectFailure(dimention, row, square, kObjectSizes);
-        ExpectFailure(dimention, square, 5.0, kObjectSizes);
-        ExpectFailure(dimention, "text", square, kObjectSizes);
-        ExpectFailure(dimention, Scalar(1, 2), square, kObjectSizes);
-        ExpectFailure(dimention, square, array, kArraySizes);
-        ExpectFailure(dimention, array, square, kArraySizes);
-        ExpectFailure(dimention, array, Table<double>({{1, 2}, {3, 4}}), kArraySizes);
+        ExpectFailure(dimention, square, row, kSizes);
+        ExpectFailure(dimention, row, square, kSizes);
+        ExpectFailure(dimention, square, 5.0, kSizes);
+        ExpectFailure(dimention, "text", square, kSizes);
+        ExpectFailure(dimention, Scalar(1, 2), square, kSizes);
+        ExpectFailure(dimention, square, array, kSizes);
+        ExpectFailure(dimention, array, square, kSizes);
+        ExpectFailure(dimention, array, Table<double>({{1, 2}, {3, 4}}), kSizes);
     }
 }
 
 TEST(Cat, RefusesAnotherDimention)
 {
     for (const std::int16_t dimention : {std::int16_t{0}, std::int16_t{3}, std::int16_t{-1}}) {
-        ExpectFailure(dimention, 1.0, 2.0, kArguments);
-        ExpectFailure(dimention, MakeRef<clsMatrix>(), RealMatrix({{1}}), kArguments);
-        ExpectFailure(dimention, RealMatrix({{1, 2}}), RealMatrix({{1}, {2}}), kArguments);
+        ExpectFailure(dimention, 1.0, 2.0, kDimention);
+        ExpectFailure(dimention, MakeRef<clsMatrix>(), RealMatrix({{1}}), kDimention);
+        ExpectFailure(dimention, RealMatrix({{1, 2}}), RealMatrix({{1}, {2}}), kDimention);
+        ExpectFailure(dimention, Variant(), 2.0, kDimention);
     }
 }
 
@@ -278,8 +278,8 @@ TEST(Cat, RefusesWhatIsNothingToJoin)
     const Ref<clsMatrix> disguised = RealMatrix({{1}});
     disguised->TypeOfMatrix = "L";
     for (const Variant& nothing : {Variant(), Variant(strange), Variant(disguised)}) {
-        ExpectFailure(1, nothing, 1.0, kArguments);
-        ExpectFailure(2, 1.0, nothing, kArguments);
+        ExpectFailure(1, nothing, 1.0, kNoOperand);
+        ExpectFailure(2, 1.0, nothing, kNoOperand);
     }
 }
 
