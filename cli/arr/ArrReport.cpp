@@ -106,6 +106,20 @@ Array<std::string> ComplexCells(const Part& part, const ComplexSheet& numbers)
     return shown->MatrixToString()->GetRealAll();
 }
 
+/// Whole numbers by class have no point, unlike those that happen to be whole.
+template <std::integral T>
+Array<std::string> NumberCells(const Part& part, std::span<const T> numbers)
+{
+    Array<std::string> cells = part.Store<std::string>(
+        [&](std::size_t k) { return (numbers[k] < 0 ? "" : " ") + std::to_string(numbers[k]); });
+    std::size_t width = 0;
+    for (const std::string& cell : cells.Span())
+        width = std::max(width, cell.size());
+    for (std::string& cell : cells.Span())
+        cell.insert(0, width - cell.size(), ' ');
+    return cells;
+}
+
 template <class T> Array<std::string> NumberCells(const Part& part, std::span<const T> numbers)
 {
     const Ref<clsMatrix> shown = NewMatrix<clsMatrix>(

@@ -75,9 +75,16 @@ TEST_F(ArrCommand, ShowsClassSizesAndElements)
     Kept("l.arr", LongMatrix({{1, -20, 3}}));
     EXPECT_EQ(Printed({"show", "l.arr"}), "l.arr: clsLong, 1 by 3\n"
                                           "    1  -20    3\n");
+    Kept("o.arr", LongMatrix({{0, 0}, {0, -1}}));
+    EXPECT_EQ(Printed({"show", "o.arr"}), "o.arr: clsLong, 2 by 2\n"
+                                          "   0   0\n"
+                                          "   0  -1\n");
     Kept("z.arr", ComplexMatrix({{{1, -2}, {3, 4}}}));
     EXPECT_EQ(Printed({"show", "z.arr"}), "z.arr: clsComplexMatrix, 1 by 2\n"
-                                          "   1 - 2i   3 + 4i\n");
+                                          "   1.0 - 2.0i   3.0 + 4.0i\n");
+    Kept("w.arr", RealMatrix({{1, -20, 300}}));
+    EXPECT_EQ(Printed({"show", "w.arr"}), "w.arr: clsMatrix, 1 by 3\n"
+                                          "     1.0   -20.0   300.0\n");
     Kept("s.arr", TextMatrix({{"Zoë", "b"}, {"", "long"}}));
     EXPECT_EQ(Printed({"show", "s.arr"}), "s.arr: clsString, 2 by 2\n"
                                           "  Zoë  b\n"

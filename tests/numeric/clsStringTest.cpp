@@ -72,7 +72,7 @@ TEST(ClsString, TakesTheCellsOfAComplexMatrix)
     s.Initial_matrix(1, 7, "old");
     EXPECT_EQ(&s.ComplexMatrixToString(*c), &s);
     EXPECT_EQ(ShapeOf(s), Sized(2, 2));
-    EXPECT_EQ(Values(s), (Texts{" 1 + 2i", " 0 + 0i", "-3 - 4i", " 5 + 0i"}));
+    EXPECT_EQ(Values(s), (Texts{" 1.0 + 2.0i", " 0.0 + 0.0i", "-3.0 - 4.0i", " 5.0 + 0.0i"}));
     EXPECT_TRUE(s.FoundComplexElements());
     EXPECT_EQ(s.Name, "");
     EXPECT_EQ(Raised([&] { s.ComplexMatrixToString(clsComplexMatrix()); }), 9);

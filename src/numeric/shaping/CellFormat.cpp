@@ -30,8 +30,7 @@ std::string Printed(double magnitude, std::int32_t fraction)
 
 std::size_t Width(CellDigits digits)
 {
-    return static_cast<std::size_t>(digits.whole) +
-           static_cast<std::size_t>(digits.fraction > 0 ? 1 + digits.fraction : 0);
+    return static_cast<std::size_t>(digits.whole + 1 + digits.fraction);
 }
 
 std::string PaddedLeft(std::string text, std::size_t width)
@@ -86,11 +85,11 @@ CellDigits DigitsFor(std::initializer_list<std::span<const double>> parts)
     if (!extent.whole) {
         const std::int32_t lowest =
             std::max(ExponentOfTen(extent.smallest), ExponentOfTen(extent.largest) - kSpread);
-        digits.fraction = std::max(1, kSignificant - 1 - lowest);
+        digits.fraction = std::max(digits.fraction, kSignificant - 1 - lowest);
     }
     // Printed, because rounding to the fraction digits can bring one more digit before the point.
     const std::string widest = Printed(extent.largest, digits.fraction);
-    digits.whole = static_cast<std::int32_t>(std::min(widest.find('.'), widest.size()));
+    digits.whole = static_cast<std::int32_t>(widest.find('.'));
     if (!extent.finite) digits.whole = std::max(digits.whole, 3);
     return digits;
 }

@@ -47,26 +47,26 @@ TEST(ExponentOfTen, StepsExactlyAtEveryPowerOfTen)
 
 TEST(FormatRealCell, PadsToTheDigitsOfTheMatrix)
 {
-    EXPECT_EQ(FormatRealCell(7, {1, 0}), " 7");
-    EXPECT_EQ(FormatRealCell(-7, {3, 0}), "  -7");
+    EXPECT_EQ(FormatRealCell(7, {1, 1}), " 7.0");
+    EXPECT_EQ(FormatRealCell(-7, {3, 1}), "  -7.0");
     EXPECT_EQ(FormatRealCell(2.5, {3, 2}), "   2.50");
     EXPECT_EQ(FormatRealCell(-0.125, {1, 3}), "-0.125");
     EXPECT_EQ(FormatRealCell(-0.0, {1, 1}), " 0.0");
     EXPECT_EQ(FormatRealCell("12.5", {2, 1}), " 12.5");
-    EXPECT_EQ(FormatRealCell(1e20, {21, 0}), " 100000000000000000000");
+    EXPECT_EQ(FormatRealCell(1e20, {21, 1}), " 100000000000000000000.0");
 }
 
 TEST(FormatRealCell, WritesZeroForWhatIsNotNumeric)
 {
-    EXPECT_EQ(FormatRealCell("abc", {1, 0}), "0");
+    EXPECT_EQ(FormatRealCell("abc", {1, 1}), "0");
     EXPECT_EQ(FormatRealCell({}, {2, 2}), "0");
 }
 
 TEST(FormatComplexCell, JoinsThePartsByTheSignOfTheImaginaryOne)
 {
-    EXPECT_EQ(FormatComplexCell(1, 2, {1, 0}), " 1 + 2i");
-    EXPECT_EQ(FormatComplexCell(-1, -2, {1, 0}), "-1 - 2i");
-    EXPECT_EQ(FormatComplexCell(0, -0.0, {1, 0}), " 0 + 0i");
+    EXPECT_EQ(FormatComplexCell(1, 2, {1, 1}), " 1.0 + 2.0i");
+    EXPECT_EQ(FormatComplexCell(-1, -2, {1, 1}), "-1.0 - 2.0i");
+    EXPECT_EQ(FormatComplexCell(0, -0.0, {1, 1}), " 0.0 + 0.0i");
     EXPECT_EQ(FormatComplexCell(10.5, -2, {2, 1}), " 10.5 -  2.0i");
 }
 
@@ -79,13 +79,13 @@ TEST(MatrixToString, OfZerosIsABlankAndAZero)
     EXPECT_EQ(Values(*clsComplex().MatrixToString()), (Texts{" 0"}));
 }
 
-TEST(MatrixToString, OfWholeNumbersHasNoFraction)
+TEST(MatrixToString, OfWholeNumbersHasAPointAndOneDigitBehindIt)
 {
     EXPECT_EQ(Values(*RealMatrix({{1, -20}, {300, 0}})->MatrixToString()),
-              (Texts{"   1", " 300", " -20", "   0"}));
+              (Texts{"   1.0", " 300.0", " -20.0", "   0.0"}));
     EXPECT_EQ(Values(*LongMatrix({{-2147483647 - 1, 5}})->MatrixToString()),
-              (Texts{"-2147483648", "          5"}));
-    EXPECT_EQ(Values(*RealMatrix({{1e20}})->MatrixToString()), (Texts{" 100000000000000000000"}));
+              (Texts{"-2147483648.0", "          5.0"}));
+    EXPECT_EQ(Values(*RealMatrix({{1e20}})->MatrixToString()), (Texts{" 100000000000000000000.0"}));
 }
 
 TEST(MatrixToString, KeepsTheShape)
@@ -126,16 +126,16 @@ TEST(MatrixToString, NamesWhatIsNotFinite)
     const double infinity = std::numeric_limits<double>::infinity();
     const double nan = std::numeric_limits<double>::quiet_NaN();
     EXPECT_EQ(Values(*RealMatrix({{1, -infinity, nan}})->MatrixToString()),
-              (Texts{"   1", "-Inf", " NaN"}));
+              (Texts{"   1.0", "  -Inf", "   NaN"}));
 }
 
 TEST(MatrixToString, OfComplexNumbersUsesOneFormatForBothParts)
 {
     EXPECT_EQ(Values(*ComplexMatrix({{{1, 2}, {-10, -3}}})->MatrixToString()),
-              (Texts{"  1 +  2i", "-10 -  3i"}));
+              (Texts{"  1.0 +  2.0i", "-10.0 -  3.0i"}));
     EXPECT_EQ(Values(*ComplexMatrix({{{0, 0.5}, {1, 0}}})->MatrixToString()),
               (Texts{" 0.00000 + 0.50000i", " 1.00000 + 0.00000i"}));
-    EXPECT_EQ(Values(*clsComplex(-1, -2).MatrixToString(true)), (Texts{"-1 - 2i"}));
+    EXPECT_EQ(Values(*clsComplex(-1, -2).MatrixToString(true)), (Texts{"-1.0 - 2.0i"}));
 }
 
 TEST(MatrixToString, NeedsElements)
