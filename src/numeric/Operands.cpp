@@ -36,7 +36,6 @@ Ref<clsComplex> ComplexOf(const std::string& text)
 }
 template <std::same_as<Variant> T> Ref<clsComplex> ComplexOf(const T& value)
 {
-    if (value.IsNumber()) return MakeRef<clsComplex>(value.Number(), 0.0);
     return value.IsText() ? ComplexOf(value.template As<std::string>())
                           : value.template As<Ref<clsComplex>>();
 }

@@ -28,8 +28,7 @@ template <class M> const M& ObjectOf(const Variant& value)
 /// is none of it; LongArray rounds to nearest, half to even, with error 6 beyond 32 bits.
 Array<double> DoubleArray(const Variant& array);
 Array<std::int32_t> LongArray(const Variant& array);
-/// Elements are clsComplex objects, which are kept, texts such as "1 - 2i", "i" or "3", or, beside
-/// them, numbers.
+/// Elements are clsComplex objects, which are kept, or texts such as "1 - 2i", "i" or "3".
 Array<Ref<clsComplex>> ComplexArray(const Variant& array);
 
 /// Operands of other kinds in the class that computes with them.

@@ -63,6 +63,17 @@ template <class T> bool IsComplex(const T& value)
         return AnyNumber(value).has_value();
 }
 
+/// Only an object and a text make an element complex: a number beside them is of another kind.
+template <class T> bool IsComplexElement(const T& element)
+{
+    if constexpr (std::same_as<T, Variant>)
+        return element.Visit([](const auto& held) { return IsComplexElement(held); });
+    else if constexpr (std::same_as<T, Ref<clsComplex>> || std::same_as<T, std::string>)
+        return IsComplex(element);
+    else
+        return false;
+}
+
 template <class T> bool IsZero(const T& element)
 {
     if constexpr (std::same_as<T, Variant>)
@@ -129,7 +140,7 @@ bool IsIntegerArray(const Variant& value)
 bool IsComplexArray(const Variant& value)
 {
     return Every(
-        value, [](const auto& x) { return IsComplex(x); }, Alone::No);
+        value, [](const auto& x) { return IsComplexElement(x); }, Alone::No);
 }
 
 bool IsComplexText(const Variant& value)

@@ -20,8 +20,8 @@ bool IsComplexNumber(const Variant& value);
 /// Is it an array with a second dimension?
 bool IsTwoDimensional(const Variant& array);
 
-/// Is it an array of which every element is numeric, IsWholeNumber or IsComplexNumber? True of an
-/// array without elements.
+/// Is it an array of which every element is numeric; IsWholeNumber; a clsComplex or a text that
+/// IsComplexText accepts, but no plain number? True of an array without elements.
 bool IsNumericArray(const Variant& value);
 bool IsIntegerArray(const Variant& value);
 bool IsComplexArray(const Variant& value);

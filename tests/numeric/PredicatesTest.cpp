@@ -78,19 +78,20 @@ TEST(IsIntegerArray, WantsAWholeNumberInEveryElement)
         EXPECT_FALSE(IsIntegerArray(other));
 }
 
-TEST(IsComplexArray, WantsAComplexNumberInEveryElement)
+TEST(IsComplexArray, WantsAComplexObjectOrATextOfOneInEveryElement)
 {
     MessageRecorder messages;
     EXPECT_TRUE(IsComplexArray(Row<Ref<clsComplex>>({Scalar(1, 2), Scalar(0, 0)})));
     EXPECT_TRUE(IsComplexArray(Row<std::string>({"1+i", "2"})));
-    EXPECT_TRUE(IsComplexArray(Row<Variant>({Scalar(1, 2), "i", 3.0})));
+    EXPECT_TRUE(IsComplexArray(Row<Variant>({Scalar(1, 2), "i", "3"})));
     const Ref<clsComplex> tagged = Scalar(1, 2);
     tagged->TypeOfMatrix = "r";
     for (const Variant& other :
          {Variant(Row<Ref<clsComplex>>({Scalar(1, 2), Ref<clsComplex>()})),
           Variant(Row<Ref<clsComplex>>({tagged})), Variant(Row<Variant>({RealMatrix({{1.0}})})),
           Variant(Row<Variant>({Variant()})), Variant(Row<std::string>({"i", "j"})),
-          Variant(Scalar(1, 2)), Variant("i"), Variant()})
+          Variant(Row<Variant>({Scalar(1, 2), 3.0})), Variant(Row<double>({1.5})),
+          Variant(Row<std::int32_t>({1})), Variant(Scalar(1, 2)), Variant("i"), Variant()})
         EXPECT_FALSE(IsComplexArray(other));
     EXPECT_EQ(messages.shown, Shown{});
 }

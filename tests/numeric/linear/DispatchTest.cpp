@@ -37,10 +37,11 @@ TEST(Dispatch, TakesTextsForWhatTheySpell)
               (std::vector<double>{5, 10}));
 }
 
-TEST(Dispatch, GivesEmptyWithoutAMessageForAnArrayOfOtherTexts)
+TEST(Dispatch, GivesEmptyWithoutAMessageForAnArrayOfNoKind)
 {
     MessageRecorder messages;
     EXPECT_TRUE(RealMatrix({{1}})->Plus(Row<std::string>({"one"})).IsEmpty());
+    EXPECT_TRUE(RealMatrix({{1, 2}})->Plus(Row<Variant>({Scalar(1, 2), 3.0})).IsEmpty());
     EXPECT_EQ(messages.Take(), Shown{});
 }
 

@@ -165,11 +165,14 @@ TEST(Cat, TakesAnArrayForTheClassThatItsElementsCallFor)
     numbers(1) = 1.5;
     numbers(2) = "2";
     Array<Variant> complexes(2);
-    complexes(1) = 1.5;
+    complexes(1) = "1.5";
     complexes(2) = Scalar(2, 3);
     Array<Variant> mixed(2);
     mixed(1) = 1.5;
     mixed(2) = "two";
+    Array<Variant> numbered(2); // a number is no complex element
+    numbered(1) = 1.5;
+    numbered(2) = Scalar(2, 3);
     const std::pair<Variant, std::string> cases[] = {{Row<double>({1.5, 2}), "r"},
                                                      {Row<double>({1, 2}), "r"},
                                                      {Row<std::int32_t>({1, 2}), "r"},
@@ -178,6 +181,7 @@ TEST(Cat, TakesAnArrayForTheClassThatItsElementsCallFor)
                                                      {Row({Scalar(1, 2), Scalar(3, 4)}), "c"},
                                                      {numbers, "r"},
                                                      {complexes, "c"},
+                                                     {numbered, "v"},
                                                      {mixed, "v"}};
     for (const auto& [array, tag] : cases) {
         const Rectangle right = Told2D(Cat(2, one, array));
