@@ -88,8 +88,10 @@ public:
     /// transposed first), frames as in Parcor_Resid. Q_T scales the length of the vocal tract: the
     /// areas of P + 1 tubes become those of about P*Q_T + 1 by Compression_Expansion, and the order
     /// of the filter is P*Q_T + 1, rounded. The last samples of VectInit, as many as that, stand
-    /// before the first one. Errors: 5 for a Q_T not above 0, 11 for a reflection of -1 and for
-    /// neighbouring tubes of opposite areas, and those of Parcor_Resid.
+    /// before the first one. With a Q_T of 0 every frame shows the message of Compression_Expansion
+    /// and passes as it is, as it does with any Q_T that leaves one tube. Errors: 9 for an order
+    /// below 1 (a Q_T below -0.5/P), 11 for a reflection of -1 and for neighbouring tubes of
+    /// opposite areas, and those of Parcor_Resid.
     Ref<clsMatrix> Parcor_Direct(const clsMatrix& Parcor, const clsMatrix& VectInit, double Q_T,
                                  std::int32_t Nint) const;
     /// Residual of linear prediction, a row as long as the receiver. Parcor has P rows and a column

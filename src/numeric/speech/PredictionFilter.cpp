@@ -44,25 +44,27 @@ Frames FramesOf(std::span<const double> samples, std::int32_t length)
 /// A predictor that changes from frame to frame. `x` is what it predicts from: predictor(t) gives
 /// the coefficients of frame t, from 0, and take(n, prediction) may still change x(n), on which
 /// only later predictions depend. The last samples of `start` are those before the first. Error 9
-/// if they, the vector, or a frame before the last are shorter than the order.
+/// for an order below 1, and if they, the vector, or a frame before the last are shorter than it.
 template <class Predictor, class Take>
-void Predict(const Frames& frames, std::size_t order, const double* x,
+void Predict(const Frames& frames, std::int32_t order, const double* x,
              std::span<const double> start, Predictor predictor, Take take)
 {
     if (frames.count == 0) return;
-    if (start.size() < order || frames.End(0) < order) Raise(ErrorNumber::Subscript);
+    if (order < 1) Raise(ErrorNumber::Subscript);
+    const auto past = static_cast<std::size_t>(order);
+    if (start.size() < past || frames.End(0) < past) Raise(ErrorNumber::Subscript);
     // The first samples once more, behind what stood before them.
-    Array<double> first = ZeroStore<double>({1, CLng(2 * order)});
+    Array<double> first = ZeroStore<double>({1, CLng(2 * past)});
     const auto head = first.Span();
-    std::copy(start.end() - static_cast<std::ptrdiff_t>(order), start.end(), head.begin());
+    std::copy(start.end() - order, start.end(), head.begin());
 
     std::size_t n = 0;
     for (std::size_t t = 0; t < frames.count; ++t) {
         const Ref<clsMatrix> coefficients = predictor(t);
         const std::span<const double> a = coefficients->Elements().Span();
-        for (; n < std::min(order, frames.End(t)); ++n) {
-            take(n, Predicted(a, &head[order + n]));
-            head[order + n] = x[n];
+        for (; n < std::min(past, frames.End(t)); ++n) {
+            take(n, Predicted(a, &head[past + n]));
+            head[past + n] = x[n];
         }
         for (; n < frames.End(t); ++n)
             take(n, Predicted(a, x + n));
@@ -135,7 +137,7 @@ Ref<clsMatrix> Residual(const clsMatrix& sound, const clsMatrix& parcor, const c
     Array<double> error = ZeroStore<double>({1, CLng(x.size())});
     const auto e = error.Span();
     Predict(
-        FramesOf(x, frame), static_cast<std::size_t>(table.rows), x.data(), before,
+        FramesOf(x, frame), table.rows, x.data(), before,
         [&](std::size_t t) { return ReflectionsOf(parcor, t)->Pred_Lat(); },
         [&](std::size_t n, double prediction) { e[n] = x[n] - prediction; });
     return Filtered(std::move(error), x, table.values, before);
@@ -144,7 +146,6 @@ Ref<clsMatrix> Residual(const clsMatrix& sound, const clsMatrix& parcor, const c
 Ref<clsMatrix> Synthesis(const clsMatrix& excitation, const clsMatrix& parcor,
                          const clsMatrix& start, double tract, std::int32_t frame)
 {
-    if (!(tract > 0.0)) Raise(ErrorNumber::InvalidCall);
     // A table with one frame in each row is told by the number of its rows.
     const bool by_rows = frame / 10.0 + 2.0 != parcor.size1;
     const Ref<clsMatrix> turned = by_rows ? parcor.Transpose() : Ref<clsMatrix>();
@@ -157,7 +158,7 @@ Ref<clsMatrix> Synthesis(const clsMatrix& excitation, const clsMatrix& parcor,
     const auto y = output.Span();
     std::copy(x.begin(), x.end(), y.begin());
     Predict(
-        FramesOf(x, frame), static_cast<std::size_t>(order), y.data(), before,
+        FramesOf(x, frame), order, y.data(), before,
         [&](std::size_t t) {
             const Ref<clsMatrix> k = ReflectionsOf(table, t);
             const Ref<clsMatrix> areas = AreasOf(k->Elements().Span());

@@ -395,9 +395,7 @@ TEST(ParcorDirect, StopsAtATubeWithoutEnd)
     EXPECT_EQ(direct({0.5, 0.5, 0.5, 0.5}, 1.0, 4), 9);
     EXPECT_EQ(direct({0.5, 0.5, 0.5, 0.5}, 2.0, 8), 9);
     EXPECT_EQ(direct({0.5, 0.5, 0.5, 0.5}, 2.0, 9), 0);
-    EXPECT_EQ(direct({0.5, 0.5, 0.5, 0.5}, 0.0, 5), 5);
-    EXPECT_EQ(direct({0.5, 0.5, 0.5, 0.5}, -1.0, 5), 5);
-    EXPECT_EQ(direct({0.5, 0.5, 0.5, 0.5}, kNan, 5), 5);
+    EXPECT_EQ(direct({0.5, 0.5, 0.5, 0.5}, kNan, 5), 6);
     EXPECT_EQ(direct({0.5, 0.5, 0.5, 0.5}, 1e9, 5), 6);
     EXPECT_EQ(direct({0.5, 0.5, 0.5, 0.5}, 1e8, 5), 9);
     // A reflection of 2 makes a filter that grows without end.
@@ -420,6 +418,40 @@ TEST(ParcorDirect, ATractOfATubeOrLessPassesTheSound)
     const Sound x = Noise(45, 1);
     const Ref<clsMatrix> table = RealMatrix({{0.5, 0.1}, {0.5, 0.1}, {0.5, 0.1}, {0.5, 0.1}});
     EXPECT_EQ(Values(*RowOf(x)->Parcor_Direct(*table, *RealMatrix({{9}}), 0.1, 20)), x);
+}
+
+TEST(ParcorDirect, WithoutATractTellsOfItOnceAFrameAndPassesTheSound)
+{
+    MessageRecorder messages;
+    const Sound x = Noise(45, 1); // four frames of ten samples, the last with a tail of five
+    const Ref<clsMatrix> table =
+        RealMatrix({{0.5, 0.1, 0.2, 0.3}, {0.5, 0.1, 0.2, 0.3}, {0.5, 0.1, 0.2, 0.3}});
+    const Ref<clsMatrix> start = RealMatrix({{9}});
+    EXPECT_EQ(Values(*RowOf(x)->Parcor_Direct(*table, *start, 0.0, 10)), x);
+    EXPECT_EQ(messages.Take(), Shown(4, Plain("Koef for Compression-Expansion equal zero")));
+    EXPECT_EQ(Values(*RowOf(Sound(9, 1.0))->Parcor_Direct(*table, *start, 0.0, 10)), Sound(9, 1.0));
+    EXPECT_EQ(messages.Take(), Shown{}); // no frame
+}
+
+TEST(ParcorDirect, RunsWithANegativeTractThatLeavesOneTube)
+{
+    MessageRecorder messages;
+    const Sound x = Noise(45, 1);
+    const Ref<clsMatrix> table = RealMatrix({{0.5, 0.1}, {0.5, 0.1}, {0.5, 0.1}});
+    const auto direct = [&](double tract, const Sound& sound) {
+        return RowOf(sound)->Parcor_Direct(*table, *RealMatrix({{9}}), tract, 10);
+    };
+    // A single column of more than one row serves all frames.
+    const Ref<clsMatrix> column = RealMatrix({{0.5}, {0.5}, {0.5}});
+    EXPECT_EQ(Values(*RowOf(x)->Parcor_Direct(*column, *RealMatrix({{9}}), -0.1, 10)), x);
+    EXPECT_EQ(Values(*direct(-0.1, Sound(20, 1.0))), Sound(20, 1.0));
+    // Order 1 as far down as -0.5/3; then none, then fewer than none.
+    EXPECT_EQ(Raised([&] { direct(-0.16, Sound(20, 1.0)); }), 0);
+    EXPECT_EQ(Raised([&] { direct(-0.17, Sound(20, 1.0)); }), 9);
+    EXPECT_EQ(Raised([&] { direct(-1.0, Sound(20, 1.0)); }), 9);
+    EXPECT_EQ(Raised([&] { direct(-1e9, Sound(20, 1.0)); }), 6);
+    EXPECT_EQ(Values(*direct(-1.0, Sound(9, 1.0))), Sound(9, 1.0)); // no frame
+    EXPECT_EQ(messages.Take(), Shown{});
 }
 
 TEST(ParcorDirect, StopsAtAnythingButAVector)
