@@ -131,11 +131,11 @@ public:
     /// Elementary functions, element by element, angles in radians. Those that return a Variant
     /// hold a clsMatrix while all elements lie in the real domain, and otherwise a
     /// clsComplexMatrix in which elements inside the domain keep their real value and have an
-    /// imaginary part of zero. docs/elementary-functions.md lists formula, domain and guard of
-    /// each. A guard shows its message once a call and goes on: "Divide by zero." and "Log of
-    /// zero." with 10^306 (a logarithm with its negative), "Overflow." with 0. Errors: 6 where the
-    /// formula overflows, 11 where it divides by a zero that has no guard, 5 outside the domain of
-    /// the underlying function, 9 for a matrix without elements.
+    /// imaginary part of zero, some guards excepted. docs/elementary-functions.md lists formula,
+    /// domain and guard of each. A guard shows its message once a call and goes on: "Divide by
+    /// zero." and "Log of zero." with 10^306 (a logarithm with its negative), "Overflow." with 0.
+    /// Errors: 6 where the formula overflows, 11 where it divides by a zero that has no guard, 5
+    /// outside the domain of the underlying function, 9 for a matrix without elements.
     Ref<clsMatrix> SinM() const;
     Variant AsinM() const;
     Ref<clsMatrix> SinhM() const;

@@ -148,7 +148,7 @@ bool IsSingular(ComplexValue p, ComplexValue q)
     return Vanishes(Sum(p, q)) || Vanishes(Difference(p, q));
 }
 
-/// log((p + q)/(p - q))/2 where that is not singular.
+/// log((p + q)/(p - q))/2 where the divisor does not vanish.
 ComplexValue HalfLog(ComplexValue p, ComplexValue q, OneTelling& tell)
 {
     return Over(Log(Ratio(Sum(p, q), Difference(p, q)), tell), 2.0);
@@ -237,14 +237,15 @@ ComplexValue LogTo(ComplexValue log_base, ComplexValue z, OneTelling& tell)
         z, tell, [&](ComplexValue log) { return Quotient(log, log_base, kDivideByZero, tell); });
 }
 
+// Quotients of whatever Log gives, what stands for a logarithm of zero included.
 ComplexValue Log2(ComplexValue z, OneTelling& tell)
 {
-    return LogTo(std::log(2.0), z, tell);
+    return Over(Log(z, tell), std::log(2.0));
 }
 
 ComplexValue Log10(ComplexValue z, OneTelling& tell)
 {
-    return LogTo(std::log(10.0), z, tell);
+    return Over(Log(z, tell), std::log(10.0));
 }
 
 ComplexValue Sin(ComplexValue z, OneTelling& tell)
@@ -346,7 +347,8 @@ ComplexValue Atanh(ComplexValue z, OneTelling& tell)
 
 ComplexValue Acoth(ComplexValue z, OneTelling& tell)
 {
-    if (IsSingular(z, kOne)) return Instead(kDivideByZero, kHuge, tell);
+    // Only the divisor has a guard: at -1 the logarithm tells of its zero.
+    if (Vanishes(Difference(z, kOne))) return Instead(kDivideByZero, kHuge, tell);
     return HalfLog(z, kOne, tell);
 }
 

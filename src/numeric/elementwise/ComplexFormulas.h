@@ -27,7 +27,7 @@ ComplexValue SqrtByParts(ComplexValue z);
 
 ComplexValue Exp(ComplexValue z, OneTelling& tell);
 ComplexValue Log(ComplexValue z, OneTelling& tell);
-/// To the base whose logarithm is told.
+/// To the base whose logarithm is told; for z = 0 what Log gives, whatever the base.
 ComplexValue LogTo(double log_base, ComplexValue z, OneTelling& tell);
 ComplexValue LogTo(ComplexValue log_base, ComplexValue z, OneTelling& tell);
 ComplexValue Log2(ComplexValue z, OneTelling& tell);

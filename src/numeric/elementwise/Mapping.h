@@ -57,13 +57,20 @@ template <class Rule> Ref<clsComplex> ComplexObject(Rule rule)
 }
 
 /// A rule for real elements among complex ones: those inside the domain keep their real value and
-/// have an imaginary part of zero.
+/// have an imaginary part of zero, unless they are the complex function's too.
 template <class Rule> struct Promoted {
     Rule rule;
 
     ComplexValue Complex(std::size_t k)
     {
-        return rule.InDomain(k) ? AsComplex(rule.Real(k)) : rule.Complex(k);
+        return KeepsReal(k) ? AsComplex(rule.Real(k)) : rule.Complex(k);
+    }
+    bool KeepsReal(std::size_t k) const
+    {
+        if constexpr (requires { rule.AsksComplex(k); })
+            return rule.InDomain(k) && !rule.AsksComplex(k);
+        else
+            return rule.InDomain(k);
     }
     bool FromFinite(std::size_t k) const { return rule.FromFinite(k); }
 };
@@ -85,6 +92,10 @@ template <class F, class S> struct RealRule {
     OneTelling tell = {};
 
     bool InDomain(std::size_t k) const { return f.InDomain(in[k]); }
+    bool AsksComplex(std::size_t k) const requires requires { F::AsksComplex(0.0); }
+    {
+        return F::AsksComplex(in[k]);
+    }
     double Real(std::size_t k) { return f.Real(in[k], tell); }
     ComplexValue Complex(std::size_t k) { return f.Complex(AsComplex(in[k]), tell); }
     bool FromFinite(std::size_t k) const { return Finite(in[k]); }

@@ -14,6 +14,10 @@ namespace lumora {
 /// The elementary functions on one real number. Those with a domain have complex values outside it;
 /// a NaN counts as inside. The formulas are written out, with their own errors: a hyperbolic
 /// function from exponentials is what results depend on, not the platform's.
+///
+/// AsksComplex tells which elements inside the domain are the complex function's all the same once
+/// others have made the matrix complex: those at which it has another guard. Atanh is as exact as
+/// the real formula there, so it takes them all.
 namespace elementary {
 
 /// Guards of SinhM and CoshM, and of TanhM and CothM.
@@ -168,6 +172,7 @@ struct Acosh {
 };
 struct Atanh {
     static bool InDomain(double x) { return IsSine(x); }
+    static bool AsksComplex(double) { return true; }
     static double Real(double x, OneTelling& tell) { return HalfLog(1.0 + x, 1.0 - x, tell); }
     static ComplexValue Complex(ComplexValue z, OneTelling& tell)
     {
@@ -176,6 +181,7 @@ struct Atanh {
 };
 struct Acoth {
     static bool InDomain(double x) { return IsSecant(x); }
+    static bool AsksComplex(double x) { return std::abs(x) == 1.0; }
     static double Real(double x, OneTelling& tell) { return HalfLog(x + 1.0, x - 1.0, tell); }
     static ComplexValue Complex(ComplexValue z, OneTelling& tell)
     {
@@ -201,6 +207,7 @@ struct Log {
 };
 struct Log2 {
     static bool InDomain(double x) { return IsNotNegative(x); }
+    static bool AsksComplex(double x) { return x == 0.0; }
     static double Real(double x, OneTelling& tell) { return LogOver(std::log(2.0), x, tell); }
     static ComplexValue Complex(ComplexValue z, OneTelling& tell)
     {
@@ -209,6 +216,7 @@ struct Log2 {
 };
 struct Log10 {
     static bool InDomain(double x) { return IsNotNegative(x); }
+    static bool AsksComplex(double x) { return x == 0.0; }
     static double Real(double x, OneTelling& tell) { return LogOver(std::log(10.0), x, tell); }
     static ComplexValue Complex(ComplexValue z, OneTelling& tell)
     {

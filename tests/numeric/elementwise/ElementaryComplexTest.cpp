@@ -178,8 +178,8 @@ struct Guard {
 // clang-format off
 const Guard kGuards[] = {
     {&clsComplex::LogM,   0,          "Log of zero.",         -kHuge},
-    {&clsComplex::Log2M,  0,          "Log of zero.",         -kHuge},
-    {&clsComplex::Log10M, 0,          "Log of zero.",         -kHuge},
+    {&clsComplex::Log2M,  0,          "Log of zero.",         -kHuge / std::log(2.0)},
+    {&clsComplex::Log10M, 0,          "Log of zero.",         -kHuge / std::log(10.0)},
     {&clsComplex::LogM,   {0, 1e200}, "Overflow.",            {0, 3.14159265358979 / 2}},
     {&clsComplex::ExpM,   {710, 1},   "Overflow.",            0},
     {&clsComplex::SinM,   {1, 710},   "Overflow",             0},
@@ -202,7 +202,7 @@ const Guard kGuards[] = {
     {&clsComplex::AcotM,  0,          "Singularity in Acot.", kHuge},
     {&clsComplex::AcotM,  kI,         "Singularity in Acot.", kHuge},
     {&clsComplex::AcothM, 1,          "Divide by zero.",      kHuge},
-    {&clsComplex::AcothM, -1,         "Divide by zero.",      kHuge},
+    {&clsComplex::AcothM, -1,         "Log of zero.",         -kHuge / 2.0},
 };
 // clang-format on
 

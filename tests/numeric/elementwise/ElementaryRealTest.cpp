@@ -144,14 +144,39 @@ TEST(ElementaryReal, KeepsItsGuardsAmongComplexElements)
     MessageRecorder messages;
     EXPECT_EQ(ComplexValues(RealMatrix({{0, -1, 0}})->LogM()).at(2), Complex(-kHuge, 0));
     EXPECT_EQ(messages.Take(), Shown{Plain("Log of zero.")});
-    EXPECT_EQ(ComplexValues(RealMatrix({{1, 2, -1}})->AtanhM()).at(2), Complex(kHuge, 0));
-    EXPECT_EQ(messages.Take(), Shown{Plain("Divide by zero.")});
     // Zero is inside the domain of AsechM and outside that of AsecM.
     EXPECT_EQ(ComplexValues(RealMatrix({{0, 2}})->AsechM()).at(0), Complex(kHuge, 0));
     EXPECT_EQ(messages.Take(), Shown{Plain("Divide by zero.")});
     EXPECT_EQ(ComplexValues(RealMatrix({{0, 0}})->AsecM()),
               (std::vector{Complex(kHuge, 0), Complex(kHuge, 0)}));
     EXPECT_EQ(messages.Take(), Shown{Plain("Divide by zero.")});
+}
+
+TEST(ElementaryReal, AsksTheComplexFunctionWhereItsGuardIsAnother)
+{
+    MessageRecorder messages;
+    EXPECT_EQ(RealValues(RealMatrix({{1, 0.5, -1}})->AtanhM()).at(2), kHuge);
+    EXPECT_EQ(messages.Take(), Shown{Plain("Divide by zero.")});
+    const std::vector<Complex> atanh = ComplexValues(RealMatrix({{1, 0.5, -1, 2}})->AtanhM());
+    EXPECT_EQ(atanh.at(0), Complex(kHuge, 0));
+    EXPECT_EQ(atanh.at(1), Complex(std::log(3.0) / 2, 0)); // (1 + 1/2)/(1 - 1/2) is 3
+    EXPECT_EQ(atanh.at(2), Complex(kHuge, 0));
+    EXPECT_EQ(messages.Take(), Shown{Plain("Singularity in Atanh")});
+
+    EXPECT_EQ(RealValues(RealMatrix({{-1, 3, 1}})->AcothM()).at(0), kHuge);
+    EXPECT_EQ(messages.Take(), Shown{Plain("Divide by zero.")});
+    const std::vector<Complex> acoth = ComplexValues(RealMatrix({{-1, 3, 1, 0.5}})->AcothM());
+    EXPECT_EQ(acoth.at(0), Complex(-kHuge / 2, 0));
+    EXPECT_EQ(acoth.at(1), Complex(std::log(2.0) / 2, 0));
+    EXPECT_EQ(acoth.at(2), Complex(kHuge, 0));
+    EXPECT_EQ(messages.Take(), (Shown{Plain("Log of zero."), Plain("Divide by zero.")}));
+
+    EXPECT_EQ(RealValues(RealMatrix({{0, 8}})->Log2M()).at(0), -kHuge);
+    EXPECT_EQ(ComplexValues(RealMatrix({{0, -8}})->Log2M()).at(0),
+              Complex(-kHuge / std::log(2.0), 0));
+    EXPECT_EQ(ComplexValues(LongMatrix({{0, -8}})->Log10M()).at(0),
+              Complex(-kHuge / std::log(10.0), 0));
+    EXPECT_EQ(messages.Take(), Shown(3, Plain("Log of zero.")));
 }
 
 TEST(ElementaryReal, GuardsWholeNumbersAlike)
