@@ -3,7 +3,6 @@
 #include "audio/WaveChunks.h"
 #include "audio/Wavwrite.h"
 #include "base/Paths.h"
-#include "numeric/clsMatrix.h"
 #include "overfilter/RemoveUnlessKept.h"
 
 #include <algorithm>
@@ -70,10 +69,11 @@ std::string RemoveOverFile(const std::string& SourcePath, std::int16_t& QualityF
         next = std::copy(samples.begin(), samples.end(), next);
     };
     if (!run.Run(keep, QualityFlag)) return {};
-    const Ref<clsMatrix> matrix = MakeRef<clsMatrix>();
-    matrix->SetRealAll(std::move(store));
     RemoveUnlessKept half_written(result);
-    if (!wavwrite(matrix, run.Info().nSamplesPerSec, run.Info().nBitsPerSample, result, 0.0))
+    // As an array: one dimension is one channel however few its samples, unlike a matrix of one
+    // row.
+    if (!wavwrite(std::move(store), run.Info().nSamplesPerSec, run.Info().nBitsPerSample, result,
+                  0.0))
         return {};
     half_written.Keep();
     run.Finish();

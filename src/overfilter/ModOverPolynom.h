@@ -20,8 +20,8 @@ namespace lumora {
 ///
 /// Progress takes the place of the Bar of Hooks.
 ///
-/// A sound of one or two frames is written as wavwrite takes a matrix of so few columns: with rows
-/// and columns exchanged.
+/// A stereo sound of one or two frames is written as wavwrite takes a matrix of so few columns:
+/// with rows and columns exchanged.
 ///
 /// Errors: 5 for a file name of fewer than four characters; 75 where the source is a symbolic link
 /// to the temporary file; 70, 75 where an earlier one cannot be deleted; those of OverFilterRun; 7

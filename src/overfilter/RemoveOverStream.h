@@ -28,7 +28,7 @@ struct OverFilterReport {
 
 /// RemoveOverFile with memory that does not grow with the length: each second of sound is written
 /// when it has left the filter, the header last, when all its sizes are true. The target gets the
-/// bytes of RemoveOverFile's result; only a sound of one or two frames differs, which has here the
+/// bytes of RemoveOverFile's result; only a stereo sound of one frame differs, which has here the
 /// channels of its source. An ordinary file of the target's name is replaced. A fault of
 /// the source leaves it as it was; once the target is open, a cancel or an error leaves none.
 ///
