@@ -144,7 +144,7 @@ def matrix_files():
     for tag in (3, 4, 5, 7, 100):
         yield f"cut-in-{tag}", arr(2, 2, tag, bytes(7), b"b")[:-5]
         for rows, columns in ((MOST, MOST), (MOST, 1), (1, MOST), (65536, 65536), (0, 1), (1, 0),
-                              (-1, -1), (LEAST, LEAST), (1, 100)):
+                              (-1, -1), (LEAST, LEAST), (1, 100), (1, 10**6)):
             yield f"lie-{tag}-{rows}by{columns}", arr(rows, columns, tag, bytes(64), b"r")
     yield "long-text", arr(1, 1, 5, b"\xff\xff" + bytes(100))
 

@@ -16,10 +16,20 @@ namespace {
 std::string FaultOf(const RunTimeError& error)
 {
     if (error.Number() == ErrorNumber::PastEndOfFile)
-        return "is cut short: it ends before its sizes say; write it anew";
+        return "ends long before its sizes say; it is damaged or no matrix file";
     if (error.Number() == ErrorNumber::Subscript)
         return "its sizes are not above zero; it is damaged or no matrix file";
     return Explained(error);
+}
+
+/// Tells of a file that is cut short how much is there.
+std::string NoteOf(const ArrExtent& extent, const std::string& kind)
+{
+    const bool texts = kind == "clsString" || kind == "string";
+    const std::string order = kind == "clsComplexMatrix" ? ", real parts first" : "";
+    return "the file is cut short: it holds " + std::to_string(extent.held) + " of " +
+           std::to_string(extent.promised) + (texts ? " texts" : " numbers") + order + "; " +
+           (texts ? "what is missing is left empty" : "the others are taken as 0");
 }
 
 Sizes SizesOfContents(const Variant& value)
@@ -43,7 +53,9 @@ ArrContents ReadArrContents(const std::string& path)
         const Variant kind = ReadArrFrom(path, {}, {}, 1.0);
         if (kind.IsEmpty()) throw JobFailure("is no matrix file: its tag or letter is unknown");
         ArrContents contents;
-        contents.value = ReadArrFrom(path);
+        ArrExtent extent;
+        contents.value = ReadArrFrom(path, {}, {}, {}, &extent);
+        if (extent.IsShort()) contents.notes.push_back(NoteOf(extent, kind.As<std::string>()));
         contents.kind = (contents.value.IsArray() ? "array of " : "") + kind.As<std::string>();
         const Sizes sizes = SizesOfContents(contents.value);
         contents.rows = sizes.rows;

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace lumora {
 
@@ -16,6 +17,7 @@ struct ArrContents {
     std::int32_t rows = 0;
     std::int32_t columns = 0;
     Variant value;
+    std::vector<std::string> notes; ///< what the user should know besides
 
     /// The place of a cell in the order of the file. Rows and columns count from 0.
     std::size_t Place(std::int32_t row, std::int32_t column) const
@@ -25,7 +27,8 @@ struct ArrContents {
     }
 };
 
-/// Reads exactly the file named. JobFailure if it holds nothing that can be shown.
+/// Reads exactly the file named. One that is cut short is filled up, and a note says so. JobFailure
+/// if it holds nothing that can be shown.
 ArrContents ReadArrContents(const std::string& path);
 
 /// Calls `use` with what gives the elements: a std::span, or a ComplexSheet.

@@ -74,9 +74,22 @@ void RefuseInputAsOutput(const ArrRequest& request)
                          " is the input as well; give the result another name");
 }
 
+/// What is in the input, with its notes told.
+ArrContents ContentsOf(const ArrRequest& request)
+{
+    ArrContents contents = ReadArrContents(request.input);
+    if (!request.json)
+        for (const std::string& note : contents.notes)
+            PrintError(NameText(request.input) + ": " + note);
+    return contents;
+}
+
 Fields Summary(const ArrContents& contents)
 {
-    return {{"class", contents.kind}, {"rows", contents.rows}, {"columns", contents.columns}};
+    return {{"notes", contents.notes},
+            {"class", contents.kind},
+            {"rows", contents.rows},
+            {"columns", contents.columns}};
 }
 
 /// The closing line of a file that was made.
@@ -88,7 +101,7 @@ std::string ClosingLine(const ArrRequest& request, const ArrContents& contents)
 
 Fields Show(const ArrRequest& request)
 {
-    const ArrContents contents = ReadArrContents(request.input);
+    const ArrContents contents = ContentsOf(request);
     Fields fields = Summary(contents);
     if (request.json)
         fields["elements"] = ArrElements(contents);
@@ -99,7 +112,7 @@ Fields Show(const ArrRequest& request)
 
 Fields ToCsv(const ArrRequest& request)
 {
-    const ArrContents contents = ReadArrContents(request.input);
+    const ArrContents contents = ContentsOf(request);
     if (request.output.empty()) {
         WriteCsv(contents, PrintText);
         return {};
@@ -137,6 +150,7 @@ void PrintDocument(const ArrRequest& request, const std::string& error, const Fi
 {
     Fields result = {{"file", request.input}};
     if (!request.output.empty()) result["output"] = request.output;
+    result["notes"] = Fields::array();
     result["ok"] = error.empty();
     if (!error.empty()) result["error"] = error;
     result.update(fields);

@@ -132,6 +132,7 @@ TEST_F(ArrCommand, ShowsTheSameToAProgram)
     Kept("m.arr", RealMatrix({{0.1, inf}, {-inf, std::nan("")}}));
     const Json expected = {{"results",
                             {{{"file", "m.arr"},
+                              {"notes", Json::array()},
                               {"ok", true},
                               {"class", "clsMatrix"},
                               {"rows", 2},
@@ -244,13 +245,47 @@ TEST_F(ArrCommand, SaysWhatIsWrongWithAMatrixFile)
     const std::string m = "lumora: m.arr: ";
     EXPECT_EQ(complaint("no matrix file"), m + "is no matrix file: its tag or letter is unknown\n");
     EXPECT_EQ(complaint(""), m + "is empty; there is no matrix in it\n");
-    EXPECT_EQ(complaint(Le32(3) + Le32(1) + Le32(3) + LeDouble(1)),
-              m + "is cut short: it ends before its sizes say; write it anew\n");
+    EXPECT_EQ(complaint(Le32(10000) + Le32(10000) + Le32(3) + LeDouble(1)),
+              m + "ends long before its sizes say; it is damaged or no matrix file\n");
     EXPECT_EQ(complaint(Le32(0) + Le32(1) + Le32(3) + LeDouble(1)),
               m + "its sizes are not above zero; it is damaged or no matrix file\n");
     EXPECT_EQ(Complaint({"show", "x.arr"}),
               "lumora: x.arr: there is no such file; check the name\n");
     EXPECT_EQ(Complaint({"show", "."}), "lumora: .: is a folder; name the files in it\n");
+}
+
+TEST_F(ArrCommand, ShowsWhatIsThereOfAFileThatIsCutShort)
+{
+    const std::string real = Le32(3) + Le32(1) + Le32(3) + LeDouble(1.5) + LeDouble(2) + "cut";
+    const std::string texts = Le32(1) + Le32(3) + Le32(5) + Le16(2) + "do" + Le16(4) + "re";
+    const std::string complex =
+        Le32(2) + Le32(1) + Le32(4) + LeDouble(1) + LeDouble(2) + LeDouble(3);
+    const struct {
+        std::string bytes, shown, csv, note;
+    } files[] = {
+        {real, "clsMatrix, 3 by 1\n   1.5000\n   2.0000\n   0.0000\n", "1.5\n2\n0\n",
+         "2 of 3 numbers; the others are taken as 0"},
+        {texts, "clsString, 1 by 3\n  do  re\n", "do,re,\"\"\n",
+         "1 of 3 texts; what is missing is left empty"},
+        {complex, "clsComplexMatrix, 2 by 1\n   1.0 + 3.0i\n   2.0 + 0.0i\n", "1+3i\n2+0i\n",
+         "3 of 4 numbers, real parts first; the others are taken as 0"},
+    };
+    for (const auto& [bytes, shown, csv, note] : files) {
+        folder_.Write("m.arr", bytes);
+        const std::string text = "the file is cut short: it holds " + note;
+        const std::string line = "lumora: m.arr: " + text + "\n";
+        const CommandResult show = Run({"show", "m.arr"});
+        EXPECT_EQ(show.status, 0);
+        EXPECT_EQ(show.out, "m.arr: " + shown);
+        EXPECT_EQ(show.err, line);
+        const CommandResult table = Run({"to-csv", "m.arr"});
+        EXPECT_EQ(table.status, 0);
+        EXPECT_EQ(table.out, csv);
+        EXPECT_EQ(table.err, line);
+        const Json result = Json::parse(Printed({"show", "m.arr", "--json"}))["results"][0];
+        EXPECT_EQ(result["notes"], Json::array({text}));
+        EXPECT_EQ(result["ok"], true);
+    }
 }
 
 TEST_F(ArrCommand, OpensExactlyTheFileNamed)
@@ -333,6 +368,7 @@ TEST_F(ArrCommand, TellsAProgramHowItWent)
     EXPECT_EQ(made, Json({{"results",
                            {{{"file", "t.csv"},
                              {"output", "m.arr"},
+                             {"notes", Json::array()},
                              {"ok", true},
                              {"class", "clsLong"},
                              {"rows", 1},
@@ -344,6 +380,7 @@ TEST_F(ArrCommand, TellsAProgramHowItWent)
               Json({{"results",
                      {{{"file", "x.arr"},
                        {"output", "x.csv"},
+                       {"notes", Json::array()},
                        {"ok", false},
                        {"error", "there is no such file; check the name"}}}}}));
 }

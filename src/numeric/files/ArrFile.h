@@ -48,15 +48,27 @@ std::int32_t WriteArr(std::string& FileName, const Variant& Obj, const std::stri
 /// holds: "clsMatrix", "clsComplexMatrix", "clsString", "clsLong", or of the kind of a plain array,
 /// "date" for dates.
 ///
+/// A file that ends before its sizes say gives what is there: numbers of which a byte is missing
+/// are 0, a text that is cut has its beginning, and later ones are empty.
+///
 /// A missing file shows the message of fopen_Rudo and is error 52. Errors: 9 (a size below 1, First
-/// above Last), 62 (the file ends before its sizes say; nothing is allocated for what is not
-/// there), and those of fopen_Rudo.
+/// above Last), 62 (more than 64 MiB would have to be made up, 32 bytes for a text; nothing is
+/// allocated then), and those of fopen_Rudo.
 Variant ReadArr(std::string& FileName, std::optional<std::int32_t> First = {},
                 std::optional<std::int32_t> Last = {}, const Variant& AskType = {});
 
-/// The same with a path that is taken as it is.
+/// How far a file keeps what its sizes promise, counted in elements; of complex ones real and
+/// imaginary parts count by themselves. All 0 where nothing was read.
+struct ArrExtent {
+    std::int64_t promised = 0;
+    std::int64_t held = 0; ///< with every byte
+    bool IsShort() const { return held < promised; }
+};
+
+/// The same with a path that is taken as it is. `extent` may be null.
 std::int32_t WriteArrTo(const std::string& path, const Variant& Obj, const std::string& TypeName);
 Variant ReadArrFrom(const std::string& path, std::optional<std::int32_t> First = {},
-                    std::optional<std::int32_t> Last = {}, const Variant& AskType = {});
+                    std::optional<std::int32_t> Last = {}, const Variant& AskType = {},
+                    ArrExtent* extent = nullptr);
 
 } // namespace lumora

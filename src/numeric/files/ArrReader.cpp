@@ -9,7 +9,9 @@
 #include "numeric/files/ArrFormat.h"
 #include "numeric/files/Windows1252.h"
 
+#include <algorithm>
 #include <concepts>
+#include <cstddef>
 #include <cstring>
 #include <span>
 #include <string_view>
@@ -50,7 +52,7 @@ public:
         // clang-format on
     }
 
-    Variant Contents(std::optional<std::int32_t> first, std::optional<std::int32_t> last) const
+    Variant Contents(std::optional<std::int32_t> first, std::optional<std::int32_t> last)
     {
         // clang-format off
         switch (header_.tag) {
@@ -63,8 +65,13 @@ public:
         // clang-format on
     }
 
+    /// Of the contents that have been read.
+    ArrExtent Extent() const { return extent_; }
+
 private:
     static constexpr std::int64_t kElements = sizeof(ArrHeader) + 1; ///< their file position
+    static constexpr std::int64_t kMostMadeUp = std::int64_t{64} << 20;
+    static constexpr std::int64_t kTextInMemory = 32; ///< bytes of one without characters
 
     void ReadLetter()
     {
@@ -79,64 +86,89 @@ private:
 
     std::int64_t BytesOfElements() const { return elements_end_ - kElements + 1; }
 
-    /// To be asked before memory is taken for that many elements of at least so many bytes.
-    void CheckPromise(std::int64_t bytes_each) const
+    /// How many elements are promised. To be asked before memory is taken for them: each has at
+    /// least so many bytes in the file, and takes so many in memory if the file does not hold it.
+    std::int64_t Promised(std::int64_t bytes_in_file, std::int64_t bytes_made_up) const
     {
         const Sizes sizes = Shape();
         if (sizes.rows < 1 || sizes.columns < 1) Raise(ErrorNumber::Subscript, path_);
-        if (std::int64_t{sizes.rows} * sizes.columns > BytesOfElements() / bytes_each)
+        const std::int64_t count = std::int64_t{sizes.rows} * sizes.columns;
+        if (count > BytesOfElements() / bytes_in_file + kMostMadeUp / bytes_made_up)
             Raise(ErrorNumber::PastEndOfFile, path_);
+        return count;
     }
 
-    /// Fills all of `elements` from the current position.
-    template <class T> void Fill(std::span<T> elements) const
+    /// The same for numbers, `parts` of them an element.
+    template <class T> void CheckNumbers(std::int64_t parts = 1)
     {
-        if (ReadValues(file_, elements) < elements.size()) Raise(ErrorNumber::PastEndOfFile, path_);
+        constexpr std::int64_t kBytes = sizeof(T);
+        extent_.promised = parts * Promised(parts * kBytes, parts * kBytes);
+        extent_.held = std::min(extent_.promised, BytesOfElements() / kBytes);
     }
 
-    template <class T> Array<T> ReadAll() const
+    /// Fills `numbers` from the current position: those of which the file holds every byte, and
+    /// zeros behind them.
+    template <class T> void Fill(std::span<T> numbers) const
+    {
+        const std::int64_t bytes =
+            std::max<std::int64_t>(elements_end_ + 1 - FilePosition(file_), 0);
+        const std::size_t there =
+            std::min(numbers.size(), static_cast<std::size_t>(bytes) / sizeof(T));
+        const std::size_t read = ReadValues(file_, numbers.first(there));
+        std::fill(numbers.begin() + static_cast<std::ptrdiff_t>(read), numbers.end(), T());
+    }
+
+    template <class T> Array<T> Filled() const
+    {
+        Array<T> store = UnwrittenStore<T>(Shape());
+        Fill(store.Span());
+        return store;
+    }
+
+    template <class T> Array<T> ReadAll()
     {
         if constexpr (std::same_as<T, std::string>) {
             return ReadTexts();
         } else {
-            CheckPromise(sizeof(T));
-            Array<T> store = UnwrittenStore<T>(Shape());
-            Fill(store.Span());
-            return store;
+            CheckNumbers<T>();
+            return Filled<T>();
         }
     }
 
-    /// In one transfer, cut apart afterwards.
-    Array<std::string> ReadTexts() const
+    /// In one transfer, cut apart afterwards. A text that the file cuts has what is there of it,
+    /// and those behind it are empty.
+    Array<std::string> ReadTexts()
     {
         using Length = std::uint16_t;
-        CheckPromise(sizeof(Length));
+        extent_.promised = Promised(sizeof(Length), kTextInMemory);
         std::string bytes(static_cast<std::size_t>(BytesOfElements()), '\0');
         Fill(std::span(bytes));
         std::string_view left = bytes;
         const auto take = [&](std::size_t count) {
-            if (count > left.size()) Raise(ErrorNumber::PastEndOfFile, path_);
             const std::string_view taken = left.substr(0, count);
-            left.remove_prefix(count);
+            left.remove_prefix(taken.size());
             return taken;
         };
         Array<std::string> store = UnwrittenStore<std::string>(Shape());
         for (std::string& text : store.Span()) {
             Length length = 0;
-            std::memcpy(&length, take(sizeof length).data(), sizeof length);
+            const std::string_view written = take(sizeof length);
+            if (written.size() < sizeof length) break;
+            std::memcpy(&length, written.data(), sizeof length);
+            if (length <= left.size()) ++extent_.held;
             text = Utf8FromWindows1252(take(length));
         }
         return store;
     }
 
-    Variant ReadComplex() const
+    Variant ReadComplex()
     {
-        CheckPromise(2 * sizeof(double));
-        Array<double> re = ReadAll<double>();
-        return NewMatrix<clsComplexMatrix>(std::move(re), ReadAll<double>());
+        CheckNumbers<double>(2);
+        Array<double> re = Filled<double>();
+        return NewMatrix<clsComplexMatrix>(std::move(re), Filled<double>());
     }
 
-    Variant ReadPlain() const
+    Variant ReadPlain()
     {
         return WithElementType(*kind_, [this]<class T>() { return Variant(ReadAll<T>()); });
     }
@@ -154,9 +186,9 @@ private:
     }
 
     template <class T>
-    Array<T> ReadLines(std::optional<std::int32_t> first, std::optional<std::int32_t> last) const
+    Array<T> ReadLines(std::optional<std::int32_t> first, std::optional<std::int32_t> last)
     {
-        CheckPromise(sizeof(T));
+        CheckNumbers<T>();
         const LineSpan lines = LinesToRead(first, last);
         const bool one_row = header_.size1 == 1;
         Array<T> store = UnwrittenStore<T>(one_row ? Sizes{1, lines.Count()}
@@ -179,18 +211,21 @@ private:
     ArrHeader header_;
     std::int64_t elements_end_ = 0; ///< file position of their last byte
     const ArrKind* kind_ = nullptr; ///< of a plain array, null if unknown
+    ArrExtent extent_;
 };
 
 } // namespace
 
 Variant ReadArrFrom(const std::string& path, std::optional<std::int32_t> First,
-                    std::optional<std::int32_t> Last, const Variant& AskType)
+                    std::optional<std::int32_t> Last, const Variant& AskType, ArrExtent* extent)
 {
     const OpenFile file(fopen_Rudo(path, "rb"));
     if (file.Failed()) Raise(ErrorNumber::BadFileNumber, path);
-    const ArrReader reader(file.Number(), path);
+    ArrReader reader(file.Number(), path);
     if (!AskType.IsEmpty()) return reader.NameOfContents();
-    return OrOutOfMemory([&] { return reader.Contents(First, Last); });
+    Variant contents = OrOutOfMemory([&] { return reader.Contents(First, Last); });
+    if (extent) *extent = reader.Extent();
+    return contents;
 }
 
 Variant ReadArr(std::string& FileName, std::optional<std::int32_t> First,

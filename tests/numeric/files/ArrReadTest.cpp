@@ -239,22 +239,94 @@ TEST_F(ReadArr, FailsForSizesBelowOne)
         }
 }
 
-TEST_F(ReadArr, FailsWhereTheFileEndsBeforeItsSizesSay)
+TEST_F(ReadArr, HasZerosForTheNumbersThatAShortFileLacks)
 {
-    const std::string files[] = {
-        ArrHead(2, 2, 3) + Doubles({1, 2, 3, 4}),
-        ArrHead(1, 2, 4) + Doubles({1, 2, 3, 4}),
-        ArrHead(2, 2, 5) + Texts({"do", "re", "", "fa"}),
-        ArrHead(2, 3, 7) + Longs({1, 2, 3, 4, 5, 6}),
-    };
-    for (const std::string& whole : files) {
-        EXPECT_FALSE(Read(whole).IsEmpty());
-        for (std::size_t length = 12; length < whole.size(); ++length)
-            EXPECT_EQ(Raised([&] { Read(whole.substr(0, length)); }), 62) << length;
+    // Bytes of which none is zero, so that a number that is cut would show.
+    const std::string third = LeDouble(1.0 / 3.0);
+    const std::string odd = Le32(0x01020304);
+    for (std::size_t length = 0; length <= 4 * third.size(); ++length) {
+        const std::string bytes = (third + third + third + third).substr(0, length);
+        const std::size_t whole = length / third.size();
+        std::vector<double> numbers(4, 0.0);
+        std::fill_n(numbers.begin(), whole, 1.0 / 3.0);
+        const Variant real = Read(ArrHead(2, 2, 3) + bytes);
+        EXPECT_EQ(Values(Real(real)), numbers) << length;
+        EXPECT_EQ(ShapeOf(Real(real)), Sized(2, 2));
+        const Variant complex = Read(ArrHead(1, 2, 4) + bytes);
+        EXPECT_EQ(Values(*complex.As<Ref<clsComplexMatrix>>()),
+                  (std::vector<Complex>{{numbers[0], numbers[2]}, {numbers[1], numbers[3]}}));
+        // The letter of a plain array is none of its elements.
+        Array<Currency> money(4);
+        std::fill_n(money.Span().begin(), whole, Currency{0x3FD5555555555555});
+        EXPECT_EQ(Read(ArrHead(1, 4, 100) + bytes + "c"), Variant(money));
     }
-    EXPECT_EQ(Raised([&] { Read(ArrHead(1, 2, 100) + Raw({1}) + "b"); }), 62);
-    EXPECT_EQ(Raised([&] { Read(ArrHead(1, 2, 100) + Texts({"a", "b"}).substr(0, 5) + "5"); }), 62);
-    EXPECT_EQ(Raised([&] { Read(ArrHead(1, 2, 100) + "d"); }), 62); // as written by "date"
+    for (std::size_t length = 0; length <= 6 * odd.size(); ++length) {
+        std::vector<std::int32_t> numbers(6, 0);
+        std::fill_n(numbers.begin(), length / odd.size(), 0x01020304);
+        const Variant whole =
+            Read(ArrHead(2, 3, 7) + (odd + odd + odd + odd + odd + odd).substr(0, length));
+        EXPECT_EQ(Values(*whole.As<Ref<clsLong>>()), numbers) << length;
+    }
+    EXPECT_EQ(Read(ArrHead(1, 3, 100) + Raw({7}) + "b"), Variant(Row<std::uint8_t>({7, 0, 0})));
+    EXPECT_EQ(Read(ArrHead(1, 3, 100) + "b"), Variant(Row<std::uint8_t>({0, 0, 0})));
+}
+
+TEST_F(ReadArr, HasWhatIsThereOfTheTextsOfAShortFile)
+{
+    using Words = std::vector<std::string>;
+    const std::string texts = Texts({"do", "re", "", "fa"});
+    const std::pair<std::size_t, Words> cuts[] = {
+        {0, {"", "", "", ""}},       {1, {"", "", "", ""}},        {2, {"", "", "", ""}},
+        {3, {"d", "", "", ""}},      {4, {"do", "", "", ""}},      {5, {"do", "", "", ""}},
+        {7, {"do", "r", "", ""}},    {10, {"do", "re", "", ""}},   {12, {"do", "re", "", ""}},
+        {13, {"do", "re", "", "f"}}, {14, {"do", "re", "", "fa"}},
+    };
+    for (const auto& [length, words] : cuts) {
+        const Variant read = Read(ArrHead(2, 2, 5) + texts.substr(0, length));
+        EXPECT_EQ(Values(*read.As<Ref<clsString>>()), words) << length;
+        EXPECT_EQ(ShapeOf(*read.As<Ref<clsString>>()), Sized(2, 2));
+    }
+    EXPECT_EQ(Read(ArrHead(1, 2, 100) + Texts({"a", "b"}).substr(0, 5) + "5"),
+              Variant(Row<std::string>({"a", ""})));
+}
+
+TEST_F(ReadArr, HasZerosForAnArrayWhoseTypeNameTheWriterDidNotKnow)
+{
+    std::string name = folder_ / "dates.arr";
+    EXPECT_EQ(WriteArr(name, Row<Date>({{1.5}, {2.5}}), "date"), 13);
+    EXPECT_EQ(lumora::ReadArr(name), Variant(Row<Date>({{0}, {0}})));
+    EXPECT_EQ(WriteArr(name, Table<std::int32_t>({{1, 2}, {3, 4}}), "length"), 13);
+    EXPECT_EQ(lumora::ReadArr(name), Variant(Table<std::int32_t>({{0, 0}, {0, 0}})));
+    EXPECT_EQ(WriteArr(name, Row({1.5}), "number"), 13);
+    EXPECT_TRUE(lumora::ReadArr(name).IsEmpty()); // "n" is no letter
+}
+
+TEST_F(ReadArr, HasZerosForTheRowsOfARangeThatAShortFileLacks)
+{
+    const std::string bytes = ArrHead(3, 2, 3) + Doubles({1, 2, 3, 4});
+    EXPECT_EQ(Values(Real(Read(bytes, 1, 2))), (std::vector<double>{1, 2, 4, 0}));
+    EXPECT_EQ(Values(Real(Read(bytes, 2, 3))), (std::vector<double>{2, 3, 0, 0}));
+    EXPECT_EQ(Values(Real(Read(ArrHead(1, 9, 3) + Doubles({1, 2}), 8, 9))),
+              (std::vector<double>{0, 0}));
+}
+
+TEST_F(ReadArr, TellsHowMuchOfItsPromiseAFileHolds)
+{
+    const auto extent = [&](const std::string& bytes) {
+        ArrExtent told;
+        ReadArrFrom(folder_.Write("m.arr", bytes), 1, 1, {}, &told);
+        EXPECT_EQ(told.IsShort(), told.held != told.promised);
+        return std::pair(told.held, told.promised);
+    };
+    using Pair = std::pair<std::int64_t, std::int64_t>;
+    EXPECT_EQ(extent(ArrHead(3, 2, 3) + Doubles({1, 2, 3, 4}) + "1234567"), Pair(4, 6));
+    EXPECT_EQ(extent(ArrHead(3, 1, 3) + Doubles({1, 2, 3, 4})), Pair(3, 3));
+    EXPECT_EQ(extent(ArrHead(1, 2, 4) + Doubles({1, 2, 3})), Pair(3, 4));
+    EXPECT_EQ(extent(ArrHead(1, 5, 7)), Pair(0, 5));
+    EXPECT_EQ(extent(ArrHead(1, 3, 5) + Texts({"", "a", "bc"}).substr(0, 8)), Pair(2, 3));
+    EXPECT_EQ(extent(ArrHead(1, 3, 5) + Texts({"", "a", "bc"})), Pair(3, 3));
+    EXPECT_EQ(extent(ArrHead(1, 3, 100) + Raw({1, 2}) + "b"), Pair(2, 3));
+    EXPECT_EQ(extent(ArrHead(1, 3, 6) + Doubles({1})), Pair(0, 0));
 }
 
 TEST_F(ReadArr, TakesNoMemoryForSizesThatLie)
@@ -279,10 +351,28 @@ TEST_F(ReadArr, TakesNoMemoryForSizesThatLie)
     EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 16 * 1024); // KiB
 }
 
+TEST_F(ReadArr, MakesUp64MebibytesAndNotAnElementMore)
+{
+    constexpr std::int64_t kMostMadeUp = 64 << 20;
+    const struct {
+        int tag;
+        const char* letter;
+        std::int64_t made_up, in_file; // bytes of an element
+    } kinds[] = {{3, "", 8, 8}, {4, "", 16, 16},  {5, "", 32, 2},
+                 {7, "", 4, 4}, {100, "i", 2, 2}, {100, "5", 32, 2}};
+    for (const auto& [tag, letter, made_up, in_file] : kinds) {
+        const std::string one = std::string(static_cast<std::size_t>(in_file), '\0') + letter;
+        const std::int64_t most = kMostMadeUp / made_up + 1;
+        EXPECT_FALSE(Read(ArrHead(1, most, tag) + one).IsEmpty()) << tag << letter;
+        const std::string lie = ArrHead(1, most + 1, tag) + one;
+        EXPECT_EQ(Raised([&] { Read(lie); }), 62) << tag << letter;
+    }
+}
+
 TEST_F(ReadArr, NamesTheFileInItsErrors)
 {
     const std::string name = " (" + folder_ / "m.arr" + ")";
-    EXPECT_EQ(Told([&] { Read(ArrHead(5, 5, 3)); }),
+    EXPECT_EQ(Told([&] { Read(ArrHead(5000, 5000, 3)); }),
               "Run-time error '62': Input past end of file" + name);
     EXPECT_EQ(Told([&] { Read(ArrHead(0, 5, 3)); }),
               "Run-time error '9': Subscript out of range" + name);
