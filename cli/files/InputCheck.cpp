@@ -14,6 +14,12 @@ namespace {
 
 constexpr char kNeverCompleted[] = "its header was never completed";
 
+/// Without its blanks, as the reader has it; of one that is nothing else, these.
+std::string ChunkName(const std::string& id)
+{
+    return id.empty() ? "\"    \"" : NameText(id);
+}
+
 /// What keeps the engine's reader from a WAVE file whose header it has read; empty if nothing does.
 std::string HeaderFault(const WaveOutline& outline)
 {
@@ -44,7 +50,7 @@ std::string EngineFault(const std::string& path, WaveOutline& outline)
         return HeaderFault(outline);
     } catch (const RunTimeError&) {
         if (const WaveChunk* stranger = outline.Stranger())
-            return "a chunk " + NameText(stranger->id) + " stands ahead of its sound";
+            return "a chunk " + ChunkName(stranger->id) + " stands ahead of its sound";
         return outline.NeverCompleted() ? kNeverCompleted : "its header is damaged";
     }
 }

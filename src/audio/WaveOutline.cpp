@@ -75,11 +75,17 @@ const WaveChunk* WaveOutline::Data() const
 
 const WaveChunk* WaveOutline::Stranger() const
 {
-    const auto known = [](const WaveChunk& chunk) {
-        return chunk.id == "fmt" || chunk.id == "fact" || chunk.id == "data";
-    };
-    const auto found = std::find_if_not(chunks.begin(), chunks.end(), known);
-    return found == chunks.end() ? nullptr : &*found;
+    bool behind_info = false;
+    for (const WaveChunk& chunk : chunks) {
+        // An INFO chunk is passed over without its pad byte, and only fact and data count behind
+        // it.
+        const bool is_info = chunk.id == "INFO" && chunk.bytes % 2 == 0;
+        const bool known = chunk.id == "fact" || chunk.id == "data" ||
+                           (!behind_info && (chunk.id == "fmt" || is_info));
+        if (!known) return &chunk;
+        behind_info = behind_info || is_info;
+    }
+    return nullptr;
 }
 
 std::int64_t WaveOutline::DataBytesThere() const

@@ -24,7 +24,8 @@ struct WaveOutline {
     bool IsWave() const { return !header.WaveID.empty(); }
     /// The data chunk, null where none was found.
     const WaveChunk* Data() const;
-    /// The first chunk ahead of the data that the engine's reader does not know, or null.
+    /// The first chunk ahead of the data that the engine's reader does not know where it stands, or
+    /// null.
     const WaveChunk* Stranger() const;
     /// Bytes of the data chunk that are in the file.
     std::int64_t DataBytesThere() const;

@@ -77,6 +77,33 @@ TEST_F(UnusualInput, AChunkAheadOfTheSoundIsPassedOver)
     ExpectResultOf(Tune(kFrames, 2), 2);
 }
 
+TEST_F(UnusualInput, TheChunkThatIsReallyInTheWayIsNamed)
+{
+    const std::string data = Chunk("data", BytesOfSamples(Tune(kFrames)));
+    const std::string info = Chunk("INFO", "made by hand");
+    const std::string fact = Chunk("fact", Le32(kFrames));
+    const auto expect_named = [&](const std::string& chunks, const std::string& name) {
+        ExpectConverted(folder_.Write("in.wav", Wave(chunks)),
+                        "a chunk " + name + " stands ahead of its sound");
+        ExpectResultOf(Tune(kFrames));
+    };
+    expect_named(FormatChunk() + info + Chunk("LIST", "INFO") + data, "LIST");
+    expect_named(FormatChunk() + fact + info + fact + Chunk("JUNK", "") + data, "JUNK");
+    expect_named(FormatChunk() + info + info + data, "INFO"); // the second is no longer known
+    expect_named(info + FormatChunk() + data, "fmt");         // nor is the format behind one
+    expect_named(FormatChunk() + Chunk("INFO", "odd") + std::string(1, '\0') + data, "INFO");
+    expect_named(FormatChunk() + Chunk("    ", "abcd") + data, "\"    \"");
+}
+
+TEST_F(UnusualInput, AnInfoChunkAheadOfTheSoundIsPassedOverByTheEngine)
+{
+    const std::string data = Chunk("data", BytesOfSamples(Tune(kFrames)));
+    const std::string in =
+        folder_.Write("in.wav", Wave(FormatChunk() + Chunk("INFO", "made by hand") + data));
+    EXPECT_EQ(Run(in).at("notes"), Json::array());
+    ExpectResultOf(Tune(kFrames));
+}
+
 TEST_F(UnusualInput, AChunkBehindTheSoundIsNoReasonToConvert)
 {
     const std::string data = Chunk("data", BytesOfSamples(Tune(kFrames)));
