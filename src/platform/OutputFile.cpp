@@ -1,12 +1,14 @@
 #include "platform/OutputFile.h"
 
+#include "platform/Descriptor.h"
 #include "platform/FaultText.h"
+#include "platform/FileRights.h"
+#include "platform/Placement.h"
+#include "platform/TemporaryName.h"
 
 #include <cerrno>
-#include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
-#include <random>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -17,6 +19,8 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr char kExists[] = "exists already; give another name, or --force to replace it";
+constexpr char kProtected[] =
+    "is write-protected and is not replaced; give another name, or permit writing to it first";
 
 std::string FollowLinks(const std::string& name)
 {
@@ -26,31 +30,6 @@ std::string FollowLinks(const std::string& name)
     for (int k = 0; k < kMostLinks && fs::is_symlink(path, failure); ++k)
         path = path.parent_path() / fs::read_symlink(path, failure);
     return path.string();
-}
-
-/// A hidden name beside the target that nobody else has.
-std::string TemporaryBeside(const std::string& target, const char* ending)
-{
-    std::random_device random;
-    char unique[20];
-    std::snprintf(unique, sizeof unique, "%08x%08x", random(), random());
-    return (fs::path(target).parent_path() / (std::string(".lumora-") + unique + ending)).string();
-}
-
-std::string FolderOf(const std::string& path)
-{
-    const fs::path folder = fs::path(path).parent_path();
-    return folder.empty() ? "." : folder.string();
-}
-
-int RenameToFreeName(const std::string& from, const std::string& to)
-{
-    if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return 0;
-    if (errno != EINVAL && errno != ENOSYS) return errno;
-    // Some file systems do not know that call; a hard link does not replace anything either.
-    if (link(from.c_str(), to.c_str()) != 0) return errno;
-    unlink(from.c_str());
-    return 0;
 }
 
 } // namespace
@@ -71,11 +50,12 @@ std::string OutputFile::Fault(const std::string& folder_hint) const
     if (stat(name_.c_str(), &status) == 0) {
         if (S_ISDIR(status.st_mode)) return "is a folder; give the name of a file" + folder_hint;
         if (!S_ISREG(status.st_mode)) return "is a pipe or a device; give the name of a file";
-        return existing_ == Existing::Keep ? kExists : "";
+        if (existing_ == Existing::Keep) return kExists;
+        return IsWriteProtected(name_, status) ? kProtected : "";
     }
     if (errno != ENOENT) return "cannot be written (" + SystemText(errno) + ")";
     if (fs::path(target_).filename().empty()) return "is not the name of a file";
-    const std::string folder = FolderOf(target_);
+    const std::string folder = TargetFolder();
     if (folder_ == Folder::MustExist && stat(folder.c_str(), &status) != 0)
         return "cannot be written: there is no folder " + NameText(folder);
     return {};
@@ -84,15 +64,14 @@ std::string OutputFile::Fault(const std::string& folder_hint) const
 std::string OutputFile::Prepare() const
 {
     std::error_code failure;
-    if (folder_ == Folder::MakeIt) fs::create_directories(FolderOf(target_), failure);
+    if (folder_ == Folder::MakeIt) fs::create_directories(TargetFolder(), failure);
     if (failure)
-        return "the folder " + NameText(FolderOf(target_)) + " cannot be made (" +
+        return "the folder " + NameText(TargetFolder()) + " cannot be made (" +
                SystemText(failure.value()) + ")";
-    const int file = open(result_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (file < 0)
-        return "nothing can be written in the folder " + NameText(FolderOf(target_)) + " (" +
-               SystemText(errno) + ")";
-    close(file);
+    const Descriptor file(open(result_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    if (file.Failed())
+        return "nothing can be written in the folder " + NameText(TargetFolder()) + " (" +
+               SystemText(errno) + ")" + Advice(errno);
     return {};
 }
 
@@ -102,22 +81,62 @@ bool OutputFile::IsThere() const
     return fs::exists(result_, unreachable);
 }
 
+std::string OutputFile::Complete() const
+{
+    const Descriptor file(open(result_.c_str(), O_RDWR | O_CLOEXEC));
+    int failure = file.Failed() ? errno : 0;
+    if (failure == 0 && existing_ == Existing::Replace)
+        failure = TakeRightsOf(target_, file.Number());
+    if (failure == 0 && fsync(file.Number()) != 0) failure = errno;
+    return failure == 0 ? "" : WriteFault(failure);
+}
+
 std::string OutputFile::Commit() const
 {
-    int failure = 0;
-    if (existing_ == Existing::Keep)
-        failure = RenameToFreeName(result_, target_);
-    else if (rename(result_.c_str(), target_.c_str()) != 0)
-        failure = errno;
-    if (failure == EEXIST) return NameText(name_) + " " + kExists;
-    if (failure != 0) return NameText(name_) + " cannot be written (" + SystemText(failure) + ")";
-    return {};
+    Placement placement(result_, target_);
+    int failure = existing_ == Existing::Keep ? placement.TakeFreeName() : placement.TakeName();
+    if (failure != 0)
+        return failure == EEXIST ? NameText(name_) + " " + kExists : WriteFault(failure);
+    failure = SyncFolder(TargetFolder());
+    if (failure == 0) {
+        placement.Settle();
+        return {};
+    }
+    return WriteFault(failure) +
+           (placement.Undo() ? "" : "; it has taken the place of the older file all the same");
+}
+
+bool OutputFile::HasOlder() const
+{
+    std::error_code unreachable;
+    return existing_ == Existing::Replace && fs::is_regular_file(target_, unreachable);
+}
+
+std::string OutputFile::RemoveOlder() const
+{
+    int failure = unlink(target_.c_str()) == 0 ? 0 : errno;
+    if (failure == 0) failure = SyncFolder(TargetFolder());
+    if (failure == 0) return {};
+    return "the older " + NameText(name_) + " cannot be removed (" + SystemText(failure) + ")" +
+           Advice(failure);
 }
 
 void OutputFile::Discard() const
 {
     unlink(result_.c_str());
     unlink(converted_.c_str());
+}
+
+std::string OutputFile::TargetFolder() const
+{
+    const fs::path folder = fs::path(target_).parent_path();
+    return folder.empty() ? "." : folder.string();
+}
+
+std::string OutputFile::WriteFault(int error_code) const
+{
+    return NameText(name_) + " cannot be written (" + SystemText(error_code) + ")" +
+           Advice(error_code);
 }
 
 } // namespace lumora
