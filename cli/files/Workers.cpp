@@ -1,7 +1,8 @@
 #include "cli/files/Workers.h"
 
-#include "cli/terminal/Wording.h"
+#include "platform/FaultText.h"
 
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
@@ -38,6 +39,33 @@ std::string CrashText(int status)
     return "the work on it crashed (" + std::string(strsignal(signal)) + ")" + report;
 }
 
+JobOutcome NotStarted(int error_code)
+{
+    JobOutcome outcome;
+    outcome.error =
+        "no process could be started for it (" + SystemText(error_code) + ")" + Advice(error_code);
+    return outcome;
+}
+
+/// The error of opening as many files as the work on one input may, beside those open here; 0 if
+/// there is room. Found out here, no work is lost by it.
+int RoomForWork(int any_descriptor)
+{
+    std::array<int, 12> taken; // decoders and fonts open some for themselves
+    int failure = 0;
+    std::size_t count = 0;
+    while (count < taken.size() && failure == 0) {
+        taken[count] = fcntl(any_descriptor, F_DUPFD_CLOEXEC, 0);
+        if (taken[count] < 0)
+            failure = errno;
+        else
+            ++count;
+    }
+    for (std::size_t k = 0; k < count; ++k)
+        close(taken[k]);
+    return failure;
+}
+
 } // namespace
 
 int Workers::Run(std::size_t count, std::size_t at_once, const StopSignals& signals)
@@ -48,25 +76,26 @@ int Workers::Run(std::size_t count, std::size_t at_once, const StopSignals& sign
             KillAll();
             return signal;
         }
-        if (next < count && running_.size() < at_once)
-            Start(next++);
-        else
+        if (next == count || running_.size() == at_once || short_of_something_) {
             Wait(signals);
+            continue;
+        }
+        const int failure = Start(next);
+        short_of_something_ = IsShortage(failure) && !running_.empty();
+        if (short_of_something_) continue;
+        if (failure != 0) on_end(next, NotStarted(failure));
+        ++next;
     }
     return 0;
 }
 
-void Workers::Start(std::size_t job)
+int Workers::Start(std::size_t job)
 {
-    const auto failed = [&](int error_code) {
-        JobOutcome outcome;
-        outcome.error = "no process could be started for it (" + SystemText(error_code) + ")";
-        on_end(job, outcome);
-    };
     int ends[2];
-    if (pipe2(ends, O_CLOEXEC) != 0) return failed(errno);
+    if (pipe2(ends, O_CLOEXEC) != 0) return errno;
     const pid_t parent = getpid();
-    const pid_t process = fork();
+    int failure = RoomForWork(ends[0]);
+    const pid_t process = failure == 0 ? fork() : -1;
     if (process == 0) {
         prctl(PR_SET_PDEATHSIG, SIGKILL);
         if (getppid() != parent) _exit(EXIT_FAILURE); // it died before it could take us along
@@ -74,13 +103,13 @@ void Workers::Start(std::size_t job)
         work(job, link);
         _exit(EXIT_SUCCESS);
     }
-    const int error_code = errno;
+    if (failure == 0 && process < 0) failure = errno;
     close(ends[1]);
-    if (process < 0) {
+    if (failure != 0)
         close(ends[0]);
-        return failed(error_code);
-    }
-    running_.push_back({job, process, JobListener(ends[0])});
+    else
+        running_.push_back({job, process, JobListener(ends[0])});
+    return failure;
 }
 
 void Workers::Wait(const StopSignals& signals)
@@ -107,6 +136,7 @@ void Workers::Listen(std::list<Worker>::iterator worker)
     JobOutcome outcome = std::move(worker->listener.outcome);
     if (!outcome.summary && outcome.error.empty()) outcome.error = CrashText(status);
     running_.erase(worker);
+    short_of_something_ = false;
     on_end(job, outcome);
 }
 

@@ -26,8 +26,10 @@ public:
     std::function<void()> on_tick = [] {};
     std::chrono::milliseconds tick{-1};
 
-    /// Runs the jobs 0..count - 1, `at_once` at a time. Answers 0, or the signal that ended it: the
-    /// jobs under way are killed then, their ends are not reported, and the rest never start.
+    /// Runs the jobs 0..count - 1, `at_once` at a time, or as many as there are descriptors,
+    /// processes and memory for: a job that cannot be started for want of these waits for another
+    /// to end, and has failed only if none is under way. Answers 0, or the signal that ended it:
+    /// the jobs under way are killed then, their ends are not reported, and the rest never start.
     int Run(std::size_t count, std::size_t at_once, const StopSignals& signals);
 
 private:
@@ -37,12 +39,14 @@ private:
         JobListener listener;
     };
 
-    void Start(std::size_t job);
+    /// The error for which it could not be started, 0 if it was.
+    int Start(std::size_t job);
     void Wait(const StopSignals& signals);
     void Listen(std::list<Worker>::iterator worker);
     void KillAll();
 
     std::list<Worker> running_;
+    bool short_of_something_ = false; ///< until one has ended
 };
 
 } // namespace lumora
