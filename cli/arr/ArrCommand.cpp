@@ -8,11 +8,13 @@
 #include "cli/terminal/JobFailure.h"
 #include "cli/terminal/StandardOutput.h"
 #include "cli/terminal/UsageError.h"
+#include "cli/terminal/WhileUnchanged.h"
 #include "cli/terminal/Wording.h"
 #include "numeric/files/ArrFile.h"
 #include "platform/FileFault.h"
 #include "platform/OutputFile.h"
 #include "platform/StopSignals.h"
+#include "platform/TemporaryName.h"
 
 #include <nlohmann/json.hpp>
 
@@ -42,6 +44,7 @@ void WriteComplete(const ArrRequest& request,
     const std::string fault = output.Fault();
     if (!fault.empty()) throw JobFailure(NameText(output.Name()) + " " + fault);
     const StopSignals signals;
+    RemoveAbandoned(output.TargetFolder());
     const Tick tick = [&] {
         if (const int signal = signals.Take()) throw StopRequest{signal};
     };
@@ -49,6 +52,7 @@ void WriteComplete(const ArrRequest& request,
     try {
         write(output.Result(), tick);
         tick();
+        FailFor(output.Complete());
         FailFor(output.Commit());
     } catch (...) {
         output.Discard();
@@ -60,10 +64,12 @@ void WriteComplete(const ArrRequest& request,
 std::string TextOf(const std::string& path)
 {
     FailFor(FileFault(path, "table"));
-    const OpenFile file(OpenForReading(path));
-    std::string text(static_cast<std::size_t>(FileLength(file.Number())), '\0');
-    text.resize(ReadValues(file.Number(), std::span(text)));
-    return text;
+    return WhileUnchanged(WatchedFile(path), [&] {
+        const OpenFile file(OpenForReading(path));
+        std::string text(static_cast<std::size_t>(FileLength(file.Number())), '\0');
+        text.resize(ReadValues(file.Number(), std::span(text)));
+        return text;
+    });
 }
 
 void RefuseInputAsOutput(const ArrRequest& request)
@@ -77,10 +83,11 @@ void RefuseInputAsOutput(const ArrRequest& request)
 /// What is in the input, with its notes told.
 ArrContents ContentsOf(const ArrRequest& request)
 {
-    ArrContents contents = ReadArrContents(request.input);
+    const std::string& path = request.input;
+    ArrContents contents = WhileUnchanged(WatchedFile(path), [&] { return ReadArrContents(path); });
     if (!request.json)
         for (const std::string& note : contents.notes)
-            PrintError(NameText(request.input) + ": " + note);
+            PrintError(NameText(path) + ": " + note);
     return contents;
 }
 

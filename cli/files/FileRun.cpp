@@ -7,11 +7,13 @@
 #include "cli/terminal/StandardOutput.h"
 #include "cli/terminal/Wording.h"
 #include "platform/StopSignals.h"
+#include "platform/TemporaryName.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
+#include <set>
 
 namespace lumora {
 
@@ -67,6 +69,7 @@ private:
     int Work()
     {
         const StopSignals signals;
+        RemoveWhatKilledRunsLeft();
         Workers workers;
         workers.work = [&](std::size_t k, JobLink& link) { RunFileJob(jobs_[k], work_, link); };
         workers.on_end = [&](std::size_t k, const JobOutcome& outcome) { End(k, outcome); };
@@ -78,11 +81,25 @@ private:
         return workers.Run(jobs_.size(), request_.jobs, signals);
     }
 
+    void RemoveWhatKilledRunsLeft() const
+    {
+        std::set<std::string> folders;
+        for (const FileJob& job : jobs_) {
+            folders.insert(job.output.TargetFolder());
+            if (job.picture) folders.insert(job.picture->TargetFolder());
+        }
+        for (const std::string& folder : folders)
+            RemoveAbandoned(folder);
+    }
+
     void End(std::size_t k, JobOutcome outcome)
     {
         const FileJob& job = jobs_[k];
         try {
-            if (outcome.error.empty()) job.Commit();
+            if (outcome.error.empty()) {
+                const std::string note = job.Commit();
+                if (!note.empty()) outcome.notes.push_back(note);
+            }
         } catch (const JobFailure& failure) {
             outcome = {outcome.notes, {}, failure.what()};
         }

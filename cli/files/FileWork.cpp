@@ -7,6 +7,7 @@
 #include "cli/files/InputCheck.h"
 #include "cli/terminal/Explained.h"
 #include "cli/terminal/JobFailure.h"
+#include "cli/terminal/WhileUnchanged.h"
 #include "cli/terminal/Wording.h"
 #include "platform/Conversion.h"
 
@@ -23,7 +24,7 @@ using Clock = std::chrono::steady_clock;
 class FileRunner {
 public:
     FileRunner(const FileJob& job, const FileWork& work, JobLink& link)
-        : job_(job), work_(work), link_(link)
+        : job_(job), work_(work), link_(link), source_(job.input)
     {
     }
 
@@ -36,18 +37,11 @@ public:
         FailFor(job_.output.Prepare());
         if (job_.picture) FailFor(job_.picture->Prepare());
         sound_ = check.sound;
-        std::string input = job_.input;
-        if (check.road == Road::Converted) {
-            Convert(check);
-            input = job_.output.Converted();
-        }
-        const auto progress = [this](double done) {
-            link_.Progress(converted_share_ + (1.0 - converted_share_) * done);
-        };
-        const auto note = [this](const std::string& text) { link_.Note(text); };
-        link_.Done(Complete(work_.work({EnginePath(input), EnginePath(job_.output.Result()),
-                                        job_.picture ? job_.picture->Result() : "", sound_,
-                                        messages_, progress, note})));
+        const JobSummary summary = WithWhatAllTell(
+            check.road == Road::Converted ? WorkOnConverted(check) : WorkOnSource());
+        FailFor(job_.output.Complete());
+        if (job_.picture && job_.picture->IsThere()) FailFor(job_.picture->Complete());
+        link_.Done(summary);
     }
 
 private:
@@ -55,6 +49,29 @@ private:
     {
         const std::string fault = output.Fault(folder_hint);
         if (!fault.empty()) throw JobFailure(NameText(output.Name()) + " " + fault);
+    }
+
+    JobSummary WorkOnSource()
+    {
+        return WhileUnchanged(source_, [&] { return WorkOn(job_.input); });
+    }
+
+    /// Once it is converted, the input may change.
+    JobSummary WorkOnConverted(const InputCheck& check)
+    {
+        Convert(check);
+        return WorkOn(job_.output.Converted());
+    }
+
+    JobSummary WorkOn(const std::string& input)
+    {
+        const auto progress = [this](double done) {
+            link_.Progress(converted_share_ + (1.0 - converted_share_) * done);
+        };
+        const auto note = [this](const std::string& text) { link_.Note(text); };
+        return work_.work({EnginePath(input), EnginePath(job_.output.Result()),
+                           job_.picture ? job_.picture->Result() : "", sound_, messages_, progress,
+                           note});
     }
 
     void Convert(const InputCheck& check)
@@ -65,8 +82,9 @@ private:
         const auto progress = [&](std::int64_t done) {
             link_.Progress(converted_share_ * std::min(1.0, static_cast<double>(done) / all));
         };
-        const ConversionCount count =
-            ConvertToPlainWave(job_.input, job_.output.Converted(), progress);
+        const ConversionCount count = WhileUnchanged(source_, [&] {
+            return ConvertToPlainWave(job_.input, job_.output.Converted(), progress);
+        });
         sound_.samples = count.samples;
         FailFor(LimitFault(work_.limits, sound_));
         NoteWhatWasMended(check, count);
@@ -88,7 +106,7 @@ private:
     }
 
     /// Puts what all commands tell around what this one does.
-    JobSummary Complete(const JobSummary& own) const
+    JobSummary WithWhatAllTell(const JobSummary& own) const
     {
         constexpr double kShortest = 1e-6; // the clock's own step
         const double elapsed = std::chrono::duration<double>(Clock::now() - start_).count();
@@ -112,6 +130,7 @@ private:
     const FileJob& job_;
     const FileWork& work_;
     JobLink& link_;
+    const WatchedFile source_;
     const Clock::time_point start_ = Clock::now();
     QuietMessages messages_;
     SoundShape sound_;
@@ -120,10 +139,17 @@ private:
 
 } // namespace
 
-void FileJob::Commit() const
+std::string FileJob::Commit() const
 {
     FailFor(output.Commit());
-    if (picture && picture->IsThere()) FailFor(picture->Commit());
+    if (!picture) return {};
+    if (picture->IsThere()) {
+        FailFor(picture->Commit());
+        return {};
+    }
+    if (!picture->HasOlder()) return {};
+    FailFor(picture->RemoveOlder());
+    return "the older picture " + NameText(picture->Name()) + " was removed";
 }
 
 void FileJob::Discard() const

@@ -38,15 +38,18 @@ struct FileJob {
     OutputFile output;
     std::optional<OutputFile> picture = {};
 
-    /// Gives what was made its final name. JobFailure if it cannot be.
-    void Commit() const;
+    /// Gives what was made its final name; an older picture goes where none was made, so that none
+    /// stands beside a result that it does not show. Answers what there is to say of that, empty if
+    /// nothing. JobFailure if it cannot be done.
+    std::string Commit() const;
     /// Removes what is left of the temporaries.
     void Discard() const;
 };
 
 /// Checks the input, converts it where the engine cannot read it, and does the work on it, which
-/// leaves the complete result in output.Result(). Progress, notes and the end go to `link`; throws
-/// nothing.
+/// leaves the complete result in output.Result(). An input that is not at the end of its reading
+/// what it was at the door has failed, whatever was made of it. Progress, notes and the end go to
+/// `link`; throws nothing.
 ///
 /// Engines keep state from run to run and talk through process-wide ports, so each job has a
 /// process of its own: this is to be called once in a process, which then ends by _exit.

@@ -138,6 +138,29 @@ TEST_F(DeclipPicture, IsNotMadeWhereNothingWasRebuilt)
     EXPECT_TRUE(nlohmann::json::parse(in_json.out).at("results").at(0).at("picture").is_null());
 }
 
+TEST_F(DeclipPicture, OfAnEarlierRunDoesNotStayBesideAResultThatHasNone)
+{
+    folder_.Write("in.wav", TuneWave(30000));
+    folder_.Write("out.png", "old");
+    const std::string none = "lumora: in.wav: no region was rebuilt, so there is no picture\n";
+    const CommandResult result = Draw("out.png", {"--force"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.err, none + "lumora: in.wav: the older picture out.png was removed\n");
+    EXPECT_EQ(NamesIn(folder_.Path()), (Names{"in.wav", "out.wav"}));
+    EXPECT_EQ(Draw("out.png", {"--force"}).err, none);
+}
+
+TEST_F(DeclipPicture, OfAnEarlierRunStaysWhereTheNewOneFailsOrMayNotReplaceIt)
+{
+    folder_.Write("in.wav", TuneWave(30000));
+    folder_.Write("out.png", "old");
+    EXPECT_EQ(Draw("out.png").status, 1);
+    folder_.Write("in.wav", "no sound");
+    EXPECT_EQ(Draw("out.png", {"--force"}).status, 1);
+    EXPECT_TRUE(HoldsBytes(folder_ / "out.png", "old"));
+    EXPECT_EQ(NamesIn(folder_.Path()), (Names{"in.wav", "out.png"}));
+}
+
 TEST_F(DeclipPicture, ReplacesAnotherOneOnlyWithForce)
 {
     folder_.Write("in.wav", PeakyWave(2));

@@ -157,6 +157,40 @@ TEST_F(Stop, WhenTheCommandIsKilledItsWorkDiesToo)
     EXPECT_FALSE(fs::exists(folder_ / "out.wav"));
 }
 
+TEST_F(Stop, WhatAKilledCommandLeftGoesWithTheNextRunInThatFolder)
+{
+    const std::string good = folder_.Write("good.wav", TuneWave(5000));
+    const std::string table = folder_.Write("table.csv", "1,2\n");
+    for (const Names& words :
+         {Names{"pitch", good, folder_ / "new.wav", "--tones", "1", "--force"},
+          Names{"declip", good, folder_ / "new.wav", "--force"},
+          Names{"arr", "from-csv", table, folder_ / "new.arr", "--as", "long", "--force"}}) {
+        RunningCommand command(Words());
+        AwaitWork();
+        command.Signal(SIGKILL);
+        EXPECT_EQ(command.Wait().status, 128 + SIGKILL);
+        EXPECT_GE(FilesUnderWay(), 1);
+        const CommandResult result = Lumora(words);
+        EXPECT_EQ(result.status, 0) << result.err;
+        EXPECT_EQ(result.err, "");
+        EXPECT_EQ(FilesUnderWay(), 0);
+        EXPECT_NE(NamesIn(folder_.Path()).front().front(), '.');
+    }
+}
+
+TEST_F(Stop, TwoRunsSideBySideDoNotTouchEachOthersWork)
+{
+    const std::string good = folder_.Write("good.wav", TuneWave(5000));
+    RunningCommand command(Words());
+    AwaitWork();
+    const std::string name = NamesIn(folder_.Path()).front();
+    EXPECT_EQ(Lumora({"pitch", good, folder_ / "new.wav", "--tones", "1"}).status, 0);
+    EXPECT_EQ(NamesIn(folder_.Path()), (Names{name, "good.wav", "in.wav", "new.wav"}));
+    command.Signal(SIGTERM);
+    EXPECT_EQ(command.Wait().status, 128 + SIGTERM);
+    EXPECT_EQ(NamesIn(folder_.Path()), (Names{"good.wav", "in.wav", "new.wav"}));
+}
+
 TEST_F(Stop, AWorkerThatIsKilledIsReportedAndItsTemporariesGo)
 {
     const std::string good = folder_.Write("good.wav", TuneWave(5000));
