@@ -1,5 +1,6 @@
 #include "audio/SampleConversion.h"
 
+#include "base/PerWidth.h"
 #include "base/RunTimeError.h"
 #include "base/Vectors.h"
 
@@ -22,18 +23,23 @@ constexpr double kFullScale = 32768.0;
 constexpr double kLowest = -32768.0;
 constexpr double kHighest = 32767.0;
 
-[[gnu::always_inline]] inline void FromShorts(const std::int16_t* in, std::size_t count,
-                                              double* out)
-{
-    for (std::size_t i = 0; i < count; ++i)
-        out[i] = in[i] / kFullScale;
-}
+struct FromShorts {
+    template <class V>
+    [[gnu::always_inline]] static void Run(const std::int16_t* in, std::size_t count, double* out)
+    {
+        for (std::size_t i = 0; i < count; ++i)
+            out[i] = in[i] / kFullScale;
+    }
+};
 
-[[gnu::always_inline]] inline void FromBytes(const std::uint8_t* in, std::size_t count, double* out)
-{
-    for (std::size_t i = 0; i < count; ++i)
-        out[i] = (in[i] - 128) / 128.0;
-}
+struct FromBytes {
+    template <class V>
+    [[gnu::always_inline]] static void Run(const std::uint8_t* in, std::size_t count, double* out)
+    {
+        for (std::size_t i = 0; i < count; ++i)
+            out[i] = (in[i] - 128) / 128.0;
+    }
+};
 
 /// Rounds four samples to whole numbers and notes in `outside` which do not fit, a NaN included.
 [[gnu::always_inline]] inline Longs Quantise(Four samples, Masks& outside)
@@ -58,62 +64,52 @@ constexpr double kHighest = 32767.0;
     return (masks[0] | masks[1] | masks[2] | masks[3]) == 0;
 }
 
-[[gnu::always_inline]] inline bool ToShorts(const double* in, std::size_t count, std::int16_t* out)
-{
-    Masks outside{};
-    std::size_t i = 0;
-    for (; i + kLanes <= count; i += kLanes) {
-        const Shorts packed =
-            __builtin_convertvector(Quantise(Load<Four>(in + i), outside), Shorts);
-        std::memcpy(out + i, &packed, sizeof packed);
+struct ToShorts {
+    template <class V>
+    [[gnu::always_inline]] static bool Run(const double* in, std::size_t count, std::int16_t* out)
+    {
+        Masks outside{};
+        std::size_t i = 0;
+        for (; i + kLanes <= count; i += kLanes) {
+            const Shorts packed =
+                __builtin_convertvector(Quantise(Load<Four>(in + i), outside), Shorts);
+            std::memcpy(out + i, &packed, sizeof packed);
+        }
+        bool fits = None(outside);
+        for (; i < count; ++i)
+            out[i] = Quantise(in[i], fits);
+        return fits;
     }
-    bool fits = None(outside);
-    for (; i < count; ++i)
-        out[i] = Quantise(in[i], fits);
-    return fits;
-}
+};
 
-[[gnu::always_inline]] inline bool ToStereoShorts(const double* left, const double* right,
-                                                  std::size_t count, std::int16_t* out)
-{
-    Masks outside{};
-    std::size_t i = 0;
-    for (; i + kLanes <= count; i += kLanes) {
-        const Longs l = Quantise(Load<Four>(left + i), outside);
-        const Longs r = Quantise(Load<Four>(right + i), outside);
-        // Left in the low half of each pair of shorts: the order of the file.
-        const Longs pairs = (l & 0xFFFF) | (r << 16);
-        std::memcpy(out + 2 * i, &pairs, sizeof pairs);
+struct ToStereoShorts {
+    template <class V>
+    [[gnu::always_inline]] static bool Run(const double* left, const double* right,
+                                           std::size_t count, std::int16_t* out)
+    {
+        Masks outside{};
+        std::size_t i = 0;
+        for (; i + kLanes <= count; i += kLanes) {
+            const Longs l = Quantise(Load<Four>(left + i), outside);
+            const Longs r = Quantise(Load<Four>(right + i), outside);
+            // Left in the low half of each pair of shorts: the order of the file.
+            const Longs pairs = (l & 0xFFFF) | (r << 16);
+            std::memcpy(out + 2 * i, &pairs, sizeof pairs);
+        }
+        bool fits = None(outside);
+        for (; i < count; ++i) {
+            out[2 * i] = Quantise(left[i], fits);
+            out[2 * i + 1] = Quantise(right[i], fits);
+        }
+        return fits;
     }
-    bool fits = None(outside);
-    for (; i < count; ++i) {
-        out[2 * i] = Quantise(left[i], fits);
-        out[2 * i + 1] = Quantise(right[i], fits);
-    }
-    return fits;
-}
+};
 
-// One source, one copy a width: the bodies above are inlined into functions that may use wider
-// instructions. The formatter would tear the table apart.
-// clang-format off
-void FromShortsBaseline(const std::int16_t* in, std::size_t count, double* out) { FromShorts(in, count, out); }
-void FromBytesBaseline(const std::uint8_t* in, std::size_t count, double* out) { FromBytes(in, count, out); }
-bool ToShortsBaseline(const double* in, std::size_t count, std::int16_t* out) { return ToShorts(in, count, out); }
-bool ToStereoShortsBaseline(const double* left, const double* right, std::size_t count, std::int16_t* out) { return ToStereoShorts(left, right, count, out); }
-constexpr SampleKernels kBaseline{FromShortsBaseline, FromBytesBaseline, ToShortsBaseline, ToStereoShortsBaseline};
-#if defined(__x86_64__)
-[[gnu::target("avx2")]] void FromShortsAvx2(const std::int16_t* in, std::size_t count, double* out) { FromShorts(in, count, out); }
-[[gnu::target("avx2")]] void FromBytesAvx2(const std::uint8_t* in, std::size_t count, double* out) { FromBytes(in, count, out); }
-[[gnu::target("avx2")]] bool ToShortsAvx2(const double* in, std::size_t count, std::int16_t* out) { return ToShorts(in, count, out); }
-[[gnu::target("avx2")]] bool ToStereoShortsAvx2(const double* left, const double* right, std::size_t count, std::int16_t* out) { return ToStereoShorts(left, right, count, out); }
-constexpr SampleKernels kAvx2{FromShortsAvx2, FromBytesAvx2, ToShortsAvx2, ToStereoShortsAvx2};
-[[gnu::target("avx512f")]] void FromShortsAvx512(const std::int16_t* in, std::size_t count, double* out) { FromShorts(in, count, out); }
-[[gnu::target("avx512f")]] void FromBytesAvx512(const std::uint8_t* in, std::size_t count, double* out) { FromBytes(in, count, out); }
-[[gnu::target("avx512f")]] bool ToShortsAvx512(const double* in, std::size_t count, std::int16_t* out) { return ToShorts(in, count, out); }
-[[gnu::target("avx512f")]] bool ToStereoShortsAvx512(const double* left, const double* right, std::size_t count, std::int16_t* out) { return ToStereoShorts(left, right, count, out); }
-constexpr SampleKernels kAvx512{FromShortsAvx512, FromBytesAvx512, ToShortsAvx512, ToStereoShortsAvx512};
-#endif
-// clang-format on
+constexpr SampleKernels KernelsOf(VectorWidth width)
+{
+    return {PerWidth<FromShorts>::For(width), PerWidth<FromBytes>::For(width),
+            PerWidth<ToShorts>::For(width), PerWidth<ToStereoShorts>::For(width)};
+}
 
 /// Each sample x scale + centre, rounded. A plain loop without a branch: compilers make vectors of
 /// it.
@@ -142,12 +138,8 @@ const SampleKernels& Kernels()
 
 const SampleKernels& SampleKernelsFor(VectorWidth width)
 {
-#if defined(__x86_64__)
-    if (width == VectorWidth::Avx512) return kAvx512;
-    if (width == VectorWidth::Avx2) return kAvx2;
-#endif
-    static_cast<void>(width);
-    return kBaseline;
+    static constexpr TablePerWidth kTables(KernelsOf);
+    return kTables[width];
 }
 
 void SamplesFromShorts(std::span<const std::int16_t> shorts, std::span<double> samples)

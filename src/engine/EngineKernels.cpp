@@ -1,5 +1,6 @@
 #include "engine/EngineKernels.h"
 
+#include "base/PerWidth.h"
 #include "base/Vectors.h"
 
 #include <cmath>
@@ -31,115 +32,105 @@ CorrelateGroup(const double* x, const double* y, std::size_t count, double* cros
 }
 
 /// Three groups at a time: as many sums as the sixteen narrowest registers hold.
-template <class V>
-[[gnu::always_inline]] inline void Correlate(const double* x, const double* y, std::size_t count,
-                                             std::size_t shifts, double* cross, WindowSums& sums)
-{
-    constexpr std::size_t kVectors = kShiftGroup * sizeof(double) / sizeof(V);
-    WindowSums later; // only those at shift 0 are asked for
-    for (std::size_t k = 0; k < shifts; k += 3 * kShiftGroup) {
-        WindowSums& here = k == 0 ? sums : later;
-        const std::size_t left = shifts - k;
-        if (left > 2 * kShiftGroup)
-            CorrelateGroup<V, 3 * kVectors>(x + k, y, count, cross + k, here);
-        else if (left > kShiftGroup)
-            CorrelateGroup<V, 2 * kVectors>(x + k, y, count, cross + k, here);
-        else
-            CorrelateGroup<V, kVectors>(x + k, y, count, cross + k, here);
+struct Correlate {
+    template <class V>
+    [[gnu::always_inline]] static void Run(const double* x, const double* y, std::size_t count,
+                                           std::size_t shifts, double* cross, WindowSums& sums)
+    {
+        constexpr std::size_t kVectors = kShiftGroup * sizeof(double) / sizeof(V);
+        WindowSums later; // only those at shift 0 are asked for
+        for (std::size_t k = 0; k < shifts; k += 3 * kShiftGroup) {
+            WindowSums& here = k == 0 ? sums : later;
+            const std::size_t left = shifts - k;
+            if (left > 2 * kShiftGroup)
+                CorrelateGroup<V, 3 * kVectors>(x + k, y, count, cross + k, here);
+            else if (left > kShiftGroup)
+                CorrelateGroup<V, 2 * kVectors>(x + k, y, count, cross + k, here);
+            else
+                CorrelateGroup<V, kVectors>(x + k, y, count, cross + k, here);
+        }
     }
-}
+};
 
 /// Four shifts at a time; a window without variance correlates 0.0 in place of whatever the
 /// quotient gives.
-[[gnu::always_inline]] inline void CoefficientsLoop(const double* __restrict sum_xx,
-                                                    const double* __restrict mean_x,
-                                                    double* __restrict cross, std::size_t shifts,
-                                                    const TargetMoments& target)
-{
-    for (std::size_t k = 0; k < shifts; ++k) {
-        const double product =
-            (sum_xx[k] - target.points * (mean_x[k] * mean_x[k])) * target.variance;
-        const double quotient =
-            (cross[k] - target.points * mean_x[k] * target.mean) / std::sqrt(product);
-        cross[k] = product <= kNoVariance ? 0.0 : quotient;
+struct Coefficients {
+    template <class V>
+    [[gnu::always_inline]] static void
+    Run(const double* __restrict sum_xx, const double* __restrict mean_x, double* __restrict cross,
+        std::size_t shifts, const TargetMoments& target)
+    {
+        for (std::size_t k = 0; k < shifts; ++k) {
+            const double product =
+                (sum_xx[k] - target.points * (mean_x[k] * mean_x[k])) * target.variance;
+            const double quotient =
+                (cross[k] - target.points * mean_x[k] * target.mean) / std::sqrt(product);
+            cross[k] = product <= kNoVariance ? 0.0 : quotient;
+        }
     }
-}
+};
 
-[[gnu::always_inline]] inline void OverlapAddLoop(double* __restrict out,
-                                                  const double* __restrict in,
-                                                  const double* __restrict window,
-                                                  std::size_t count)
-{
-    for (std::size_t i = 0; i < count; ++i)
-        out[i] += in[i] * window[i];
-}
+struct OverlapAdd {
+    template <class V>
+    [[gnu::always_inline]] static void Run(double* __restrict out, const double* __restrict in,
+                                           const double* __restrict window, std::size_t count)
+    {
+        for (std::size_t i = 0; i < count; ++i)
+            out[i] += in[i] * window[i];
+    }
+};
 
 /// Neighbours lie together in memory, so one load brings both ends of an interval.
-[[gnu::always_inline]] inline void InterpolateLoop(const double* s, const std::int32_t* index,
-                                                   const double* fraction, std::size_t count,
-                                                   double* out)
-{
-    std::size_t j = 0;
-    for (; j + 4 <= count; j += 4) {
-        const Two a = Load<Two>(s + index[j]);
-        const Two b = Load<Two>(s + index[j + 1]);
-        const Two c = Load<Two>(s + index[j + 2]);
-        const Two d = Load<Two>(s + index[j + 3]);
-        const Four low = __builtin_shufflevector(__builtin_shufflevector(a, b, 0, 2),
-                                                 __builtin_shufflevector(c, d, 0, 2), 0, 1, 2, 3);
-        const Four high = __builtin_shufflevector(__builtin_shufflevector(a, b, 1, 3),
-                                                  __builtin_shufflevector(c, d, 1, 3), 0, 1, 2, 3);
-        const Four value = (high - low) * Load<Four>(fraction + j) + low;
-        std::memcpy(out + j, &value, sizeof value);
+struct Interpolate {
+    template <class V>
+    [[gnu::always_inline]] static void Run(const double* s, const std::int32_t* index,
+                                           const double* fraction, std::size_t count, double* out)
+    {
+        std::size_t j = 0;
+        for (; j + 4 <= count; j += 4) {
+            const Two a = Load<Two>(s + index[j]);
+            const Two b = Load<Two>(s + index[j + 1]);
+            const Two c = Load<Two>(s + index[j + 2]);
+            const Two d = Load<Two>(s + index[j + 3]);
+            const Four low =
+                __builtin_shufflevector(__builtin_shufflevector(a, b, 0, 2),
+                                        __builtin_shufflevector(c, d, 0, 2), 0, 1, 2, 3);
+            const Four high =
+                __builtin_shufflevector(__builtin_shufflevector(a, b, 1, 3),
+                                        __builtin_shufflevector(c, d, 1, 3), 0, 1, 2, 3);
+            const Four value = (high - low) * Load<Four>(fraction + j) + low;
+            std::memcpy(out + j, &value, sizeof value);
+        }
+        for (; j < count; ++j) {
+            const double* interval = s + index[j];
+            out[j] = (interval[1] - interval[0]) * fraction[j] + interval[0];
+        }
     }
-    for (; j < count; ++j) {
-        const double* interval = s + index[j];
-        out[j] = (interval[1] - interval[0]) * fraction[j] + interval[0];
+};
+
+struct TakeEveryOther {
+    template <class V>
+    [[gnu::always_inline]] static void Run(const std::int16_t* __restrict interleaved,
+                                           std::size_t count, std::int16_t* __restrict frame)
+    {
+        for (std::size_t i = 0; i < count; ++i)
+            frame[i] = interleaved[2 * i];
     }
-}
+};
 
-[[gnu::always_inline]] inline void TakeEveryOtherLoop(const std::int16_t* __restrict interleaved,
-                                                      std::size_t count,
-                                                      std::int16_t* __restrict frame)
+constexpr EngineKernels KernelsOf(VectorWidth width)
 {
-    for (std::size_t i = 0; i < count; ++i)
-        frame[i] = interleaved[2 * i];
+    return {PerWidth<Correlate>::For(width), PerWidth<Coefficients>::For(width),
+            PerWidth<OverlapAdd>::For(width), PerWidth<Interpolate>::For(width),
+            PerWidth<TakeEveryOther>::For(width)};
 }
-
-// One source, one copy a width. The formatter would tear the table apart.
-// clang-format off
-void CorrelateBaseline(const double* x, const double* y, std::size_t count, std::size_t shifts, double* cross, WindowSums& sums) { Correlate<Two>(x, y, count, shifts, cross, sums); }
-void CoefficientsBaseline(const double* sum_xx, const double* mean_x, double* cross, std::size_t shifts, const TargetMoments& target) { CoefficientsLoop(sum_xx, mean_x, cross, shifts, target); }
-void OverlapAddBaseline(double* out, const double* in, const double* window, std::size_t count) { OverlapAddLoop(out, in, window, count); }
-void InterpolateBaseline(const double* s, const std::int32_t* index, const double* fraction, std::size_t count, double* out) { InterpolateLoop(s, index, fraction, count, out); }
-void TakeEveryOtherBaseline(const std::int16_t* interleaved, std::size_t count, std::int16_t* frame) { TakeEveryOtherLoop(interleaved, count, frame); }
-constexpr EngineKernels kBaseline{CorrelateBaseline, CoefficientsBaseline, OverlapAddBaseline, InterpolateBaseline, TakeEveryOtherBaseline};
-#if defined(__x86_64__)
-[[gnu::target("avx2")]] void CorrelateAvx2(const double* x, const double* y, std::size_t count, std::size_t shifts, double* cross, WindowSums& sums) { Correlate<Four>(x, y, count, shifts, cross, sums); }
-[[gnu::target("avx2")]] void CoefficientsAvx2(const double* sum_xx, const double* mean_x, double* cross, std::size_t shifts, const TargetMoments& target) { CoefficientsLoop(sum_xx, mean_x, cross, shifts, target); }
-[[gnu::target("avx2")]] void OverlapAddAvx2(double* out, const double* in, const double* window, std::size_t count) { OverlapAddLoop(out, in, window, count); }
-[[gnu::target("avx2")]] void InterpolateAvx2(const double* s, const std::int32_t* index, const double* fraction, std::size_t count, double* out) { InterpolateLoop(s, index, fraction, count, out); }
-[[gnu::target("avx2")]] void TakeEveryOtherAvx2(const std::int16_t* interleaved, std::size_t count, std::int16_t* frame) { TakeEveryOtherLoop(interleaved, count, frame); }
-constexpr EngineKernels kAvx2{CorrelateAvx2, CoefficientsAvx2, OverlapAddAvx2, InterpolateAvx2, TakeEveryOtherAvx2};
-[[gnu::target("avx512f")]] void CorrelateAvx512(const double* x, const double* y, std::size_t count, std::size_t shifts, double* cross, WindowSums& sums) { Correlate<Eight>(x, y, count, shifts, cross, sums); }
-[[gnu::target("avx512f")]] void CoefficientsAvx512(const double* sum_xx, const double* mean_x, double* cross, std::size_t shifts, const TargetMoments& target) { CoefficientsLoop(sum_xx, mean_x, cross, shifts, target); }
-[[gnu::target("avx512f")]] void OverlapAddAvx512(double* out, const double* in, const double* window, std::size_t count) { OverlapAddLoop(out, in, window, count); }
-[[gnu::target("avx512f")]] void InterpolateAvx512(const double* s, const std::int32_t* index, const double* fraction, std::size_t count, double* out) { InterpolateLoop(s, index, fraction, count, out); }
-[[gnu::target("avx512f")]] void TakeEveryOtherAvx512(const std::int16_t* interleaved, std::size_t count, std::int16_t* frame) { TakeEveryOtherLoop(interleaved, count, frame); }
-constexpr EngineKernels kAvx512{CorrelateAvx512, CoefficientsAvx512, OverlapAddAvx512, InterpolateAvx512, TakeEveryOtherAvx512};
-#endif
-// clang-format on
 
 } // namespace
 
 const EngineKernels& EngineKernelsFor(VectorWidth width)
 {
-#if defined(__x86_64__)
-    if (width == VectorWidth::Avx512) return kAvx512;
-    if (width == VectorWidth::Avx2) return kAvx2;
-#endif
-    static_cast<void>(width);
-    return kBaseline;
+    static constexpr TablePerWidth kTables(KernelsOf);
+    return kTables[width];
 }
 
 } // namespace lumora

@@ -1,5 +1,6 @@
 #include "overfilter/OverFilterKernels.h"
 
+#include "base/PerWidth.h"
 #include "base/Vectors.h"
 
 #include <algorithm>
@@ -47,39 +48,30 @@ template <class V, std::size_t R>
         Tile<V, R, 1>(signal, row, lag, stride, products);
 }
 
-template <class V>
-[[gnu::always_inline]] inline void LaggedProducts(const LaggedSignal& signal, std::size_t order,
-                                                  double* products)
-{
-    constexpr std::size_t kRows = 4;
-    const std::size_t stride = PaddedOrder(order);
-    RowGroup<V, 1>(signal, 0, stride, products);
-    for (std::size_t row = 1; row <= order; row += kRows)
-        RowGroup<V, kRows>(signal, row, stride, products);
-}
+struct LaggedProducts {
+    template <class V>
+    [[gnu::always_inline]] static void Run(const LaggedSignal& signal, std::size_t order,
+                                           double* products)
+    {
+        constexpr std::size_t kRows = 4;
+        const std::size_t stride = PaddedOrder(order);
+        RowGroup<V, 1>(signal, 0, stride, products);
+        for (std::size_t row = 1; row <= order; row += kRows)
+            RowGroup<V, kRows>(signal, row, stride, products);
+    }
+};
 
-// One source, one copy a width. The formatter would tear the table apart.
-// clang-format off
-void LaggedProductsBaseline(const LaggedSignal& signal, std::size_t order, double* products) { LaggedProducts<Two>(signal, order, products); }
-constexpr OverFilterKernels kBaseline{LaggedProductsBaseline};
-#if defined(__x86_64__)
-[[gnu::target("avx2")]] void LaggedProductsAvx2(const LaggedSignal& signal, std::size_t order, double* products) { LaggedProducts<Four>(signal, order, products); }
-constexpr OverFilterKernels kAvx2{LaggedProductsAvx2};
-[[gnu::target("avx512f")]] void LaggedProductsAvx512(const LaggedSignal& signal, std::size_t order, double* products) { LaggedProducts<Eight>(signal, order, products); }
-constexpr OverFilterKernels kAvx512{LaggedProductsAvx512};
-#endif
-// clang-format on
+constexpr OverFilterKernels KernelsOf(VectorWidth width)
+{
+    return {PerWidth<LaggedProducts>::For(width)};
+}
 
 } // namespace
 
 const OverFilterKernels& OverFilterKernelsFor(VectorWidth width)
 {
-#if defined(__x86_64__)
-    if (width == VectorWidth::Avx512) return kAvx512;
-    if (width == VectorWidth::Avx2) return kAvx2;
-#endif
-    static_cast<void>(width);
-    return kBaseline;
+    static constexpr TablePerWidth kTables(KernelsOf);
+    return kTables[width];
 }
 
 } // namespace lumora

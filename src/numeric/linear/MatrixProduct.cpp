@@ -1,5 +1,6 @@
 #include "numeric/linear/MatrixProduct.h"
 
+#include "base/PerWidth.h"
 #include "base/RunTimeError.h"
 #include "base/Vectors.h"
 
@@ -111,38 +112,26 @@ template <std::size_t kRows>
     }
 }
 
-template <class V, std::size_t kVectors>
-[[gnu::always_inline]] inline void Run(const Product& p, double* packed)
-{
-    constexpr std::size_t kRows = Tile<V, kVectors, 1>::kRows;
-    constexpr std::size_t kPanels = 8;
-    for (std::size_t k = 0; k < p.depth; k += kDepth) {
-        const std::size_t depth = std::min(kDepth, p.depth - k);
-        for (std::size_t from = 0; from < p.rows; from += kPanels * kRows) {
-            const std::size_t to = std::min(from + kPanels * kRows, p.rows);
-            Pack<kRows>(p, from, to, k, depth, packed);
-            for (std::size_t j = 0; j < p.columns; j += kColumns)
-                for (std::size_t i = from; i < to; i += kRows)
-                    RunColumns<V, kVectors>(p, packed + (i - from) * depth, i, j, k, depth);
+/// Block by block, each as long as it is in the caches.
+struct Blocked {
+    template <class V> [[gnu::always_inline]] static void Run(const Product& p, double* packed)
+    {
+        // As many sums as the registers hold.
+        constexpr std::size_t kVectors = sizeof(V) == sizeof(Two) ? 2 : 3;
+        constexpr std::size_t kRows = Tile<V, kVectors, 1>::kRows;
+        constexpr std::size_t kPanels = 8;
+        for (std::size_t k = 0; k < p.depth; k += kDepth) {
+            const std::size_t depth = std::min(kDepth, p.depth - k);
+            for (std::size_t from = 0; from < p.rows; from += kPanels * kRows) {
+                const std::size_t to = std::min(from + kPanels * kRows, p.rows);
+                Pack<kRows>(p, from, to, k, depth, packed);
+                for (std::size_t j = 0; j < p.columns; j += kColumns)
+                    for (std::size_t i = from; i < to; i += kRows)
+                        RunColumns<V, kVectors>(p, packed + (i - from) * depth, i, j, k, depth);
+            }
         }
     }
-}
-
-// One source, one copy a width: as many sums as the registers hold.
-void RunBaseline(const Product& p, double* packed)
-{
-    Run<Two, 2>(p, packed);
-}
-#if defined(__x86_64__)
-[[gnu::target("avx2")]] void RunAvx2(const Product& p, double* packed)
-{
-    Run<Four, 3>(p, packed);
-}
-[[gnu::target("avx512f")]] void RunAvx512(const Product& p, double* packed)
-{
-    Run<Eight, 3>(p, packed);
-}
-#endif
+};
 constexpr std::size_t kPackedMost = kDepth * 8 * 24;
 
 Product ProductOf(const Sheet<double>& a, const Sheet<double>& b, double* result)
@@ -163,12 +152,7 @@ void MatrixProduct(const Sheet<double>& a, const Sheet<double>& b, double* resul
     const Product p = ProductOf(a, b, result);
     std::fill_n(result, p.rows * p.columns, 0.0);
     std::vector<double> packed(kPackedMost);
-#if defined(__x86_64__)
-    if (width == VectorWidth::Avx512) return RunAvx512(p, packed.data());
-    if (width == VectorWidth::Avx2) return RunAvx2(p, packed.data());
-#endif
-    static_cast<void>(width);
-    RunBaseline(p, packed.data());
+    PerWidth<Blocked>::For(width)(p, packed.data());
 }
 
 void MatrixProduct(const Sheet<double>& a, const Sheet<double>& b, double* result)

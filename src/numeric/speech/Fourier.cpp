@@ -2,6 +2,7 @@
 
 #include "base/Cosine.h"
 #include "base/Numbers.h"
+#include "base/PerWidth.h"
 #include "base/Vectors.h"
 #include "numeric/AllZero.h"
 #include "numeric/Results.h"
@@ -54,46 +55,29 @@ template <class V, bool kFirst>
 }
 
 /// One stage: blocks of 2*half elements, half of them at least the lanes of V.
-template <class V>
-[[gnu::always_inline]] inline void Stage(Parts x, std::size_t size, std::size_t half, Parts factors)
-{
-    constexpr std::size_t kLanes = sizeof(V) / sizeof(double);
-    for (std::size_t block = 0; block < size; block += 2 * half) {
-        const Parts low = x.From(block);
-        const Parts high = low.From(half);
-        Butterfly<V, true>(low, high, factors);
-        for (std::size_t j = kLanes; j < half; j += kLanes)
-            Butterfly<V, false>(low.From(j), high.From(j), factors.From(j));
+struct Stage {
+    template <class V>
+    [[gnu::always_inline]] static void Run(Parts x, std::size_t size, std::size_t half,
+                                           Parts factors)
+    {
+        constexpr std::size_t kLanes = sizeof(V) / sizeof(double);
+        for (std::size_t block = 0; block < size; block += 2 * half) {
+            const Parts low = x.From(block);
+            const Parts high = low.From(half);
+            Butterfly<V, true>(low, high, factors);
+            for (std::size_t j = kLanes; j < half; j += kLanes)
+                Butterfly<V, false>(low.From(j), high.From(j), factors.From(j));
+        }
     }
-}
+};
 
-// One source, one copy a width. Early stages are shorter than a wide vector.
-void StageBaseline(Parts x, std::size_t size, std::size_t half, Parts factors)
+/// Early stages are shorter than a wide vector.
+VectorWidth WidthFor(std::size_t half, VectorWidth most)
 {
-    Stage<Two>(x, size, half, factors);
-}
-#if defined(__x86_64__)
-[[gnu::target("avx2")]] void StageAvx2(Parts x, std::size_t size, std::size_t half, Parts factors)
-{
-    if (half < 4) return StageBaseline(x, size, half, factors);
-    Stage<Four>(x, size, half, factors);
-}
-[[gnu::target("avx512f")]] void StageAvx512(Parts x, std::size_t size, std::size_t half,
-                                            Parts factors)
-{
-    if (half < 8) return StageAvx2(x, size, half, factors);
-    Stage<Eight>(x, size, half, factors);
-}
-#endif
-
-void RunStage(Parts x, std::size_t size, std::size_t half, Parts factors, VectorWidth width)
-{
-#if defined(__x86_64__)
-    if (width == VectorWidth::Avx512) return StageAvx512(x, size, half, factors);
-    if (width == VectorWidth::Avx2) return StageAvx2(x, size, half, factors);
-#endif
-    static_cast<void>(width);
-    StageBaseline(x, size, half, factors);
+    const VectorWidth fits = half < 4   ? VectorWidth::Baseline
+                             : half < 8 ? VectorWidth::Avx2
+                                        : VectorWidth::Avx512;
+    return std::min(fits, most);
 }
 
 constexpr double kTurn = 6.283185307179586;
@@ -191,7 +175,8 @@ void Fourier(std::span<const double> x_re, std::span<const double> x_im, std::sp
     const Parts factors{memory.Span().data(), memory.Span().data() + size};
     Factors(factors, size);
     for (std::size_t half = 2; half < size; half *= 2)
-        RunStage({re.data(), im.data()}, size, half, factors.From(half), width);
+        PerWidth<Stage>::For(WidthFor(half, width))({re.data(), im.data()}, size, half,
+                                                    factors.From(half));
 }
 
 Variant Transformed(const ComplexSheet& x, std::int32_t n_fft, Scale scale)
