@@ -24,5 +24,9 @@ inline bool Finite(ComplexValue z)
 
 /// No infinity and no NaN among the values.
 bool AllFinite(std::span<const double> x);
+inline bool AllFinite(std::span<const std::int32_t>)
+{
+    return true;
+}
 
 } // namespace lumora

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "base/Messages.h"
-#include "numeric/Results.h"
+#include "numeric/ComputeEach.h"
+#include "numeric/Draft.h"
 #include "numeric/Sheets.h"
 #include "numeric/clsComplex.h"
 #include "numeric/elementwise/ArithmeticRules.h"
@@ -30,7 +31,7 @@ template <class R, class T> auto Taken(const T& element)
 }
 
 template <class R, class Rule, class ElementA, class ElementB>
-void ComputeAll(Result<R>& result, Rule& rule, ElementA a, ElementB b)
+void ComputeAll(Draft<R>& result, Rule& rule, ElementA a, ElementB b)
 {
     ComputeEach(
         result, [&](std::size_t k) { return rule(a(k), b(k)); },
@@ -50,7 +51,7 @@ template <class R, class Rule, class A, class B> Ref<R> Arith(const A& left, con
         return {};
     }
     Rule rule;
-    Result<R> result(one_a ? Sizes{b.rows, b.columns} : Sizes{a.rows, a.columns});
+    Draft<R> result(one_a ? Sizes{b.rows, b.columns} : Sizes{a.rows, a.columns});
     const auto each_a = [a](std::size_t k) { return Taken<R>(a[k]); };
     const auto each_b = [b](std::size_t k) { return Taken<R>(b[k]); };
     if (one_a)
@@ -60,7 +61,7 @@ template <class R, class Rule, class A, class B> Ref<R> Arith(const A& left, con
         ComputeAll(result, rule, each_a, [x = each_b(0)](std::size_t) { return x; });
     else
         ComputeAll(result, rule, each_a, each_b);
-    return std::move(result).Object();
+    return result.Take();
 }
 
 /// Two complex scalars, or one and a number.

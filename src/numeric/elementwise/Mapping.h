@@ -1,9 +1,10 @@
 #pragma once
 
 #include "base/Variant.h"
+#include "numeric/ComputeEach.h"
 #include "numeric/Draft.h"
+#include "numeric/ElementValues.h"
 #include "numeric/Finite.h"
-#include "numeric/Results.h"
 #include "numeric/Sheets.h"
 #include "numeric/Stores.h"
 #include "numeric/clsComplex.h"
@@ -26,26 +27,21 @@ namespace lumora {
 
 template <class Rule> Ref<clsMatrix> RealElements(Sizes sizes, Rule rule)
 {
-    Result<clsMatrix> result(sizes);
+    Draft<clsMatrix> result(sizes);
     ComputeEach(
         result, [&](std::size_t k) { return rule.Real(k); },
         [&](std::size_t k) { return rule.FromFinite(k); });
-    return std::move(result).Object();
+    return result.Take();
 }
 
-template <class Rule> Ref<clsComplexMatrix> ComplexElements(Sizes sizes, Rule rule)
+template <ComplexClass M = clsComplexMatrix, class Rule>
+Ref<M> ComplexElements(Sizes sizes, Rule rule)
 {
-    Result<clsComplexMatrix> result(sizes);
+    Draft<M> result(sizes);
     ComputeEach(
         result, [&](std::size_t k) { return rule.Complex(k); },
         [&](std::size_t k) { return rule.FromFinite(k); });
-    return std::move(result).Object();
-}
-
-template <class Rule> Ref<clsMatrixComplex> ObjectElements(Sizes sizes, Rule rule)
-{
-    const Ref<clsComplexMatrix> elements = ComplexElements(sizes, std::move(rule));
-    return NewMatrix<clsMatrixComplex>(elements->RealPart(), elements->ImagePart());
+    return result.Take();
 }
 
 /// Element 0 alone.
@@ -138,16 +134,10 @@ Ref<clsComplex> MapComplex(const clsComplex& z, Formula formula, OneTelling told
     return ComplexObject(ComplexRule{formula, SheetOf(z), std::move(told)});
 }
 
-template <class Formula>
-Ref<clsComplexMatrix> MapComplex(const clsComplexMatrix& m, Formula formula, OneTelling told = {})
+template <ComplexClass M, class Formula>
+Ref<M> MapComplex(const M& m, Formula formula, OneTelling told = {})
 {
-    return ComplexElements(SizesOf(m), ComplexRule{formula, SheetOf(m), std::move(told)});
-}
-
-template <class Formula>
-Ref<clsMatrixComplex> MapComplex(const clsMatrixComplex& m, Formula formula, OneTelling told = {})
-{
-    return ObjectElements(SizesOf(m), ComplexRule{formula, SheetOf(m), std::move(told)});
+    return ComplexElements<M>(SizesOf(m), ComplexRule{formula, SheetOf(m), std::move(told)});
 }
 
 template <class S> struct MagnitudeRule {

@@ -111,7 +111,7 @@ template <class Base> Variant PowerOfMatrix(const Base& matrix, const Variant& e
         if constexpr (kIsReal<A> && kIsReal<B>)
             return RealOrComplex(SizesOf(matrix), base.Size(), powers);
         else if constexpr (kIsObjects<A> && kIsObjects<B>)
-            return ObjectElements(SizesOf(matrix), powers);
+            return ComplexElements<clsMatrixComplex>(SizesOf(matrix), powers);
         else
             return ComplexElements(SizesOf(matrix), powers);
     });

@@ -3,6 +3,7 @@
 #include "base/Messages.h"
 #include "base/Numbers.h"
 #include "numeric/Draft.h"
+#include "numeric/ElementValues.h"
 #include "numeric/Finite.h"
 #include "numeric/NumericMessages.h"
 #include "numeric/Operands.h"

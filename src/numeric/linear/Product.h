@@ -37,36 +37,34 @@ template <class S> const S& FloatsOf(const S& factor)
     return factor;
 }
 
-inline void Multiply(const Sheet<double>& a, const Sheet<double>& b, Result<clsMatrix>& result)
+inline void Multiply(const Sheet<double>& a, const Sheet<double>& b, Draft<clsMatrix>& result)
 {
-    MatrixProduct(a, b, result.Data());
+    MatrixProduct(a, b, result.Elements().data());
 }
 inline void Multiply(const Sheet<std::int32_t>& a, const Sheet<std::int32_t>& b,
-                     Result<clsLong>& result)
+                     Draft<clsLong>& result)
 {
-    MatrixProduct(a, b, result.Data());
+    MatrixProduct(a, b, result.Elements().data());
 }
-inline void Multiply(const ComplexSheet& a, const ComplexSheet& b, Result<clsComplexMatrix>& result)
+inline void Multiply(const ComplexSheet& a, const ComplexSheet& b, Draft<clsComplexMatrix>& result)
 {
-    MatrixProduct(a, b, result.RealData(), result.ImageData());
+    MatrixProduct(a, b, result.Real().data(), result.Image().data());
 }
 /// A real factor goes with either part for itself.
-inline void Multiply(const Sheet<double>& a, const ComplexSheet& b,
-                     Result<clsComplexMatrix>& result)
+inline void Multiply(const Sheet<double>& a, const ComplexSheet& b, Draft<clsComplexMatrix>& result)
 {
-    MatrixProduct(a, {b.rows, b.columns, b.re}, result.RealData());
-    MatrixProduct(a, {b.rows, b.columns, b.im}, result.ImageData());
+    MatrixProduct(a, {b.rows, b.columns, b.re}, result.Real().data());
+    MatrixProduct(a, {b.rows, b.columns, b.im}, result.Image().data());
 }
-inline void Multiply(const ComplexSheet& a, const Sheet<double>& b,
-                     Result<clsComplexMatrix>& result)
+inline void Multiply(const ComplexSheet& a, const Sheet<double>& b, Draft<clsComplexMatrix>& result)
 {
-    MatrixProduct({a.rows, a.columns, a.re}, b, result.RealData());
-    MatrixProduct({a.rows, a.columns, a.im}, b, result.ImageData());
+    MatrixProduct({a.rows, a.columns, a.re}, b, result.Real().data());
+    MatrixProduct({a.rows, a.columns, a.im}, b, result.Image().data());
 }
 
 /// Error 6 for a sum that is not finite although its row and its column are.
 template <class R, class A, class B>
-void RefuseOverflow(const Result<R>& result, const A& a, const B& b)
+void RefuseOverflow(const Draft<R>& result, const A& a, const B& b)
 {
     const auto rows = static_cast<std::size_t>(a.rows);
     const auto depth = static_cast<std::size_t>(a.columns);
@@ -90,12 +88,12 @@ template <class R, class A, class B> Ref<R> Product(const A& left, const B& righ
         ShowPlainMessage(kMtimesSizes);
         return {};
     }
-    Result<R> result({a.rows, b.columns});
+    Draft<R> result({a.rows, b.columns});
     const auto& factor_a = FactorOf<R>(a);
     const auto& factor_b = FactorOf<R>(b);
     Multiply(FloatsOf(factor_a), FloatsOf(factor_b), result);
     if (!result.Finite()) RefuseOverflow(result, a, b);
-    return std::move(result).Object();
+    return result.Take();
 }
 
 } // namespace lumora

@@ -1,6 +1,7 @@
 #include "base/OrOutOfMemory.h"
+#include "numeric/Draft.h"
 #include "numeric/NumericMessages.h"
-#include "numeric/Results.h"
+#include "numeric/clsMatrix.h"
 #include "numeric/linear/Elimination.h"
 
 #include <cstddef>
@@ -49,11 +50,11 @@ Ref<clsMatrix> clsMatrix::SolutionOfSistem(const clsMatrix& a) const
         return {};
     }
     SubstituteBack(work, n);
-    Result<clsMatrix> x({right.rows, 1});
+    Draft<clsMatrix> x({right.rows, 1});
     const bool finite = x.Fill(0, n, [&](std::size_t i) { return work.At(i, n); });
     if (!finite && AllFinite(square.values) && AllFinite(right.values))
         Raise(ErrorNumber::Overflow);
-    return std::move(x).Object();
+    return x.Take();
 }
 
 Ref<clsMatrix> clsMatrix::Inv() const
@@ -68,12 +69,12 @@ Ref<clsMatrix> clsMatrix::Inv() const
         ShowPlainMessage(kSingular);
         return {};
     }
-    Result<clsMatrix> inverse({square.rows, square.rows});
+    Draft<clsMatrix> inverse({square.rows, square.rows});
     const auto element = [&](std::size_t k) {
         return work.At(k % n, n + k / n) / work.At(k % n, k % n);
     };
     if (!inverse.Fill(0, n * n, element) && AllFinite(square.values)) Raise(ErrorNumber::Overflow);
-    return std::move(inverse).Object();
+    return inverse.Take();
 }
 
 Ref<clsMatrix> clsMatrix::LeastSqures(const clsMatrix& a) const

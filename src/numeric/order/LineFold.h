@@ -2,6 +2,7 @@
 
 #include "base/Numbers.h"
 #include "numeric/Draft.h"
+#include "numeric/ElementValues.h"
 #include "numeric/Lines.h"
 #include "numeric/Sheets.h"
 

@@ -2,6 +2,7 @@
 
 #include "base/Messages.h"
 #include "numeric/Draft.h"
+#include "numeric/ElementValues.h"
 #include "numeric/NumericMessages.h"
 #include "numeric/order/MinMax.h"
 

@@ -1,5 +1,6 @@
+#include "numeric/Draft.h"
 #include "numeric/Finite.h"
-#include "numeric/Results.h"
+#include "numeric/clsMatrix.h"
 #include "numeric/order/LineFold.h"
 
 #include <algorithm>
@@ -61,8 +62,8 @@ Variant SumAlong(const Sheet<double>& sheet, Lines lines, const std::string& nam
 Variant CumsumAlong(const Sheet<double>& sheet, Lines lines, const std::string& name)
 {
     const LineLayout layout = LayoutOf(lines, {sheet.rows, sheet.columns});
-    Result<clsMatrix> result({sheet.rows, sheet.columns});
-    double* const out = result.Data();
+    Draft<clsMatrix> result({sheet.rows, sheet.columns});
+    double* const out = result.Elements().data();
     const auto ends = FoldLines<Running>(
         lines, sheet,
         [&](std::size_t line) {
@@ -75,23 +76,24 @@ Variant CumsumAlong(const Sheet<double>& sheet, Lines lines, const std::string& 
         });
     for (std::size_t line = 0; line < ends.size(); ++line)
         if (!Finite(ends[line].sum)) RefuseOverflow(sheet, lines, line);
-    return Named(std::move(result).Object(), name);
+    return Named(result.Take(), name);
 }
 
 Variant ReverseAlong(const Sheet<double>& sheet, Lines lines, const std::string& name)
 {
-    Result<clsMatrix> result({sheet.rows, sheet.columns});
+    Draft<clsMatrix> result({sheet.rows, sheet.columns});
     // Columns lie one after the other, and so do the elements of each.
     const auto rows = static_cast<std::ptrdiff_t>(sheet.rows);
     const auto from = sheet.values.begin();
+    const auto to = result.Elements().begin();
     for (std::ptrdiff_t j = 0; j < sheet.columns; ++j) {
         const auto column = from + j * rows;
         if (lines == Lines::Columns)
-            std::reverse_copy(column, column + rows, result.Data() + j * rows);
+            std::reverse_copy(column, column + rows, to + j * rows);
         else
-            std::copy_n(column, rows, result.Data() + (sheet.columns - 1 - j) * rows);
+            std::copy_n(column, rows, to + (sheet.columns - 1 - j) * rows);
     }
-    return Named(std::move(result).Object(), name);
+    return Named(result.Take(), name);
 }
 
 /// `operation` along the lines that are asked for; empty for another dimention.

@@ -1,7 +1,6 @@
 #include "numeric/speech/Exstremum.h"
 
 #include "base/Numbers.h"
-#include "numeric/Draft.h"
 #include "numeric/Sheets.h"
 #include "numeric/Stores.h"
 

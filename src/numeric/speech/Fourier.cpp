@@ -5,7 +5,8 @@
 #include "base/PerWidth.h"
 #include "base/Vectors.h"
 #include "numeric/AllZero.h"
-#include "numeric/Results.h"
+#include "numeric/Draft.h"
+#include "numeric/clsMatrix.h"
 #include "numeric/clsMatrixComplex.h"
 
 #include <algorithm>
@@ -187,9 +188,9 @@ Variant Transformed(const ComplexSheet& x, std::int32_t n_fft, Scale scale)
     const auto size = static_cast<std::size_t>(n_fft);
     if (!std::has_single_bit(size)) Raise(ErrorNumber::Subscript);
 
-    Result<clsComplexMatrix> result({1, n_fft});
-    const std::span<double> re(result.RealData(), size);
-    const std::span<double> im(result.ImageData(), size);
+    Draft<clsComplexMatrix> result({1, n_fft});
+    const std::span<double> re = result.Real();
+    const std::span<double> im = result.Image();
     Fourier(x.re, x.im, re, im, WidestVectors());
     if (scale == Scale::ByLength)
         for (const auto part : {re, im})
@@ -197,7 +198,7 @@ Variant Transformed(const ComplexSheet& x, std::int32_t n_fft, Scale scale)
                 value /= n_fft;
     if (!result.Finite() && FiniteUpTo(x.re, size) && FiniteUpTo(x.im, size))
         Raise(ErrorNumber::Overflow);
-    return std::move(result).Object();
+    return result.Take();
 }
 
 ComplexSheet RealOf(const clsMatrix& m)
