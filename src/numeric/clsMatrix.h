@@ -164,6 +164,12 @@ public:
     Variant LogM() const;
     Variant Log2M() const;
     Variant Log10M() const;
+    /// To the power of a number, an array or an object. A 1 by 1 exponent goes with every element;
+    /// another must have the sizes of the matrix, or "Matrix dimensions must agree." is shown.
+    /// Another kind shows "Incorrect type of object.". Empty after a message. The result is real
+    /// unless one element is complex: a negative one with an exponent that is not whole. Anything
+    /// to the power 0 is 1; zero to a power not above 0 shows "Divide by zero." once and gives
+    /// 10^306. Error 6 on overflow.
     Variant Power(const Variant& Obj) const;
     Variant LogBaseM(const Variant& base) const;
     Variant SqrM() const;

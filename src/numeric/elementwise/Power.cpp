@@ -1,5 +1,3 @@
-#include "numeric/elementwise/Power.h"
-
 #include "base/Messages.h"
 #include "base/Numbers.h"
 #include "numeric/NumericMessages.h"
@@ -119,30 +117,17 @@ template <class Base> Variant PowerOfMatrix(const Base& matrix, const Variant& e
 
 } // namespace
 
-Variant PowerOf(const clsMatrix& base, const Variant& exponent)
-{
-    return PowerOfMatrix(base, exponent);
-}
+// clang-format off
+Variant clsMatrix::Power       (const Variant& Obj) const { return PowerOfMatrix(*this, Obj); }
+Variant clsLong::Power         (const Variant& Obj) const { return PowerOfMatrix(*this, Obj); }
+Variant clsComplexMatrix::Power(const Variant& Obj) const { return PowerOfMatrix(*this, Obj); }
+Variant clsMatrixComplex::Power(const Variant& Obj) const { return PowerOfMatrix(*this, Obj); }
+// clang-format on
 
-Variant PowerOf(const clsLong& base, const Variant& exponent)
+Variant clsComplex::Power(const Variant& Obj) const
 {
-    return PowerOfMatrix(base, exponent);
-}
-
-Variant PowerOf(const clsComplexMatrix& base, const Variant& exponent)
-{
-    return PowerOfMatrix(base, exponent);
-}
-
-Variant PowerOf(const clsMatrixComplex& base, const Variant& exponent)
-{
-    return PowerOfMatrix(base, exponent);
-}
-
-Variant PowerOf(const clsComplex& base, const Variant& exponent)
-{
-    return WithExponent(exponent, kNumberOrCls, [&]<class S>(const S& y) -> Variant {
-        Powers<Single<ComplexValue>, S> powers{SheetOf(base), y};
+    return WithExponent(Obj, kNumberOrCls, [&]<class S>(const S& y) -> Variant {
+        Powers<Single<ComplexValue>, S> powers{SheetOf(*this), y};
         if constexpr (kIsSingle<S>)
             return ComplexObject(powers);
         else

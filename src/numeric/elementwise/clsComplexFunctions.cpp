@@ -3,7 +3,6 @@
 #include "numeric/elementwise/ComplexFormulas.h"
 #include "numeric/elementwise/LogBase.h"
 #include "numeric/elementwise/Mapping.h"
-#include "numeric/elementwise/Power.h"
 #include "numeric/elementwise/RealFunctions.h"
 
 namespace lumora {
@@ -40,7 +39,6 @@ Ref<clsComplex> clsComplex::Log2M()   const { return MapComplex(*this, formulas:
 Ref<clsComplex> clsComplex::Log10M()  const { return MapComplex(*this, formulas::Log10); }
 Ref<clsComplex> clsComplex::ExpM()    const { return MapComplex(*this, formulas::Exp); }
 Ref<clsComplex> clsComplex::SqrM()    const { return MapComplex(*this, formulas::Sqrt); }
-Variant         clsComplex::Power(const Variant& Obj)      const { return PowerOf(*this, Obj); }
 Ref<clsComplex> clsComplex::LogBaseM(const Variant& base)  const { return ComplexLogBase(*this, base); }
 double          clsComplex::AbsM()       const { return Computed(formulas::Magnitude({Real, Image}), Real, Image); }
 Ref<clsComplex> clsComplex::Conj()       const { return MakeRef<clsComplex>(Real, -Image); }

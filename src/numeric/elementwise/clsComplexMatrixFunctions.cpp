@@ -1,7 +1,6 @@
 #include "numeric/clsComplexMatrix.h"
 #include "numeric/elementwise/ComplexFormulas.h"
 #include "numeric/elementwise/LogBase.h"
-#include "numeric/elementwise/Power.h"
 
 namespace lumora {
 
@@ -36,7 +35,6 @@ Ref<clsComplexMatrix> clsComplexMatrix::Log10M()  const { return MapComplex(*thi
 Ref<clsComplexMatrix> clsComplexMatrix::ExpM()    const { return MapComplex(*this, formulas::Exp); }
 Ref<clsComplexMatrix> clsComplexMatrix::SqrM()    const { return MapComplex(*this, formulas::Sqrt); }
 Ref<clsMatrix>        clsComplexMatrix::AbsM()    const { return Magnitudes(*this); }
-Variant               clsComplexMatrix::Power(const Variant& Obj)     const { return PowerOf(*this, Obj); }
 Ref<clsComplexMatrix> clsComplexMatrix::LogBaseM(const Variant& base) const { return ComplexLogBase(*this, base); }
 // clang-format on
 

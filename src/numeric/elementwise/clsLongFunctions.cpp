@@ -1,7 +1,6 @@
 #include "numeric/clsLong.h"
 #include "numeric/clsMatrix.h"
 #include "numeric/elementwise/LogBase.h"
-#include "numeric/elementwise/Power.h"
 #include "numeric/elementwise/RealFunctions.h"
 
 namespace lumora {
@@ -39,7 +38,6 @@ Variant        clsLong::Log2M()   const { return MapOrPromote<Log2>(*this); }
 Variant        clsLong::Log10M()  const { return MapOrPromote<Log10>(*this); }
 Variant        clsLong::SqrM()    const { return MapOrPromote<Sqr>(*this); }
 Ref<clsMatrix> clsLong::AbsM()    const { return MapReal<Abs>(*this); }
-Variant        clsLong::Power(const Variant& Obj)     const { return PowerOf(*this, Obj); }
 Variant        clsLong::LogBaseM(const Variant& base) const { return RealLogBase(*this, base); }
 // clang-format on
 

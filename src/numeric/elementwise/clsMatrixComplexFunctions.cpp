@@ -1,7 +1,6 @@
 #include "numeric/clsMatrixComplex.h"
 #include "numeric/elementwise/ComplexFormulas.h"
 #include "numeric/elementwise/LogBase.h"
-#include "numeric/elementwise/Power.h"
 
 namespace lumora {
 
@@ -36,7 +35,6 @@ Ref<clsMatrixComplex> clsMatrixComplex::Log10M()  const { return MapComplex(*thi
 Ref<clsMatrixComplex> clsMatrixComplex::ExpM()    const { return MapComplex(*this, formulas::Exp); }
 Ref<clsMatrixComplex> clsMatrixComplex::SqrM()    const { return MapComplex(*this, formulas::Sqrt); }
 Ref<clsMatrix>        clsMatrixComplex::AbsM()    const { return Magnitudes(*this); }
-Variant               clsMatrixComplex::Power(const Variant& Obj)     const { return PowerOf(*this, Obj); }
 Ref<clsMatrixComplex> clsMatrixComplex::LogBaseM(const Variant& base) const { return ComplexLogBase(*this, base); }
 // clang-format on
 

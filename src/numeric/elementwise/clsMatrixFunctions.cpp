@@ -1,6 +1,5 @@
 #include "numeric/clsMatrix.h"
 #include "numeric/elementwise/LogBase.h"
-#include "numeric/elementwise/Power.h"
 #include "numeric/elementwise/RealFunctions.h"
 
 namespace lumora {
@@ -38,7 +37,6 @@ Variant        clsMatrix::Log2M()   const { return MapOrPromote<Log2>(*this); }
 Variant        clsMatrix::Log10M()  const { return MapOrPromote<Log10>(*this); }
 Variant        clsMatrix::SqrM()    const { return MapOrPromote<Sqr>(*this); }
 Ref<clsMatrix> clsMatrix::AbsM()    const { return MapReal<Abs>(*this); }
-Variant        clsMatrix::Power(const Variant& Obj)     const { return PowerOf(*this, Obj); }
 Variant        clsMatrix::LogBaseM(const Variant& base) const { return RealLogBase(*this, base); }
 // clang-format on
 

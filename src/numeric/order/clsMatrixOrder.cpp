@@ -32,6 +32,11 @@ Ref<clsMatrix> clsMatrix::Minmax() const
     return MinmaxRow<clsMatrix>(FirstExtreme(sheet, Smaller()), FirstExtreme(sheet, Larger()));
 }
 
+Ref<clsMatrix> clsMatrix::MinmaxIndex() const
+{
+    return Minmax();
+}
+
 // clang-format off
 double                clsMatrix::Min          ()                         const { return FirstExtreme(SheetOf(*this), Smaller()).value; }
 double                clsMatrix::Max          ()                         const { return FirstExtreme(SheetOf(*this), Larger()).value; }

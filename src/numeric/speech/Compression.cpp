@@ -1,5 +1,3 @@
-#include "numeric/speech/Compression.h"
-
 #include "base/Numbers.h"
 #include "numeric/Computed.h"
 #include "numeric/Lines.h"
@@ -7,6 +5,7 @@
 #include "numeric/Sentinel.h"
 #include "numeric/Sheets.h"
 #include "numeric/Stores.h"
+#include "numeric/clsMatrix.h"
 
 #include <cmath>
 #include <cstddef>
@@ -85,21 +84,21 @@ template <class Length> Ref<clsMatrix> Linear(const clsMatrix& m, double koef, L
 
 } // namespace
 
-Ref<clsMatrix> Interpolated(const clsMatrix& m, double koef)
+Ref<clsMatrix> clsMatrix::Compression_Expansion(double koef) const
 {
-    return Linear(m, koef, [koef](double n) { return Int(std::abs(koef) * (n - 1.0) + 1.0); });
+    return Linear(*this, koef, [koef](double n) { return Int(std::abs(koef) * (n - 1.0) + 1.0); });
 }
 
-Ref<clsMatrix> InterpolatedToLength(const clsMatrix& m, double koef)
+Ref<clsMatrix> clsMatrix::Compression_ExpansionPrec(double koef) const
 {
-    return Linear(m, koef, [koef](double n) { return Round(std::abs(koef) * n); });
+    return Linear(*this, koef, [koef](double n) { return Round(std::abs(koef) * n); });
 }
 
-Ref<clsMatrix> Picked(const clsMatrix& m, double koef)
+Ref<clsMatrix> clsMatrix::Compression_Expansion_Matrix(double koef) const
 {
     const double step = 1.0 / std::abs(koef);
     return Resampled(
-        m, koef, kWhole, [koef](double n) { return Int(n * koef); },
+        *this, koef, kWhole, [koef](double n) { return Int(n * koef); },
         [=](std::span<const double> x, std::int32_t i) { return Nearby(x, i, step, koef); });
 }
 

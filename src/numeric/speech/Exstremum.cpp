@@ -1,11 +1,12 @@
-#include "numeric/speech/Exstremum.h"
-
 #include "base/Numbers.h"
 #include "numeric/Sheets.h"
 #include "numeric/Stores.h"
+#include "numeric/clsLong.h"
+#include "numeric/clsMatrix.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <span>
 #include <vector>
@@ -60,25 +61,25 @@ bool StandsBefore(const Maximum& a, const Maximum& b)
 
 } // namespace
 
-Ref<clsLong> PlacesOfMaxima(const clsMatrix& m, const Variant& level)
+Ref<clsLong> clsMatrix::FoundIndexesExstremumInVector_Max(const Variant& Level) const
 {
-    const std::vector<Maximum> maxima = MaximaOf(m, level);
+    const std::vector<Maximum> maxima = MaximaOf(*this, Level);
     Array<std::int32_t> places(std::max<std::int64_t>(CLng(maxima.size()), 1));
     std::transform(maxima.begin(), maxima.end(), places.Span().begin(),
                    [](const Maximum& maximum) { return maximum.place; });
     return NewMatrix<clsLong>(std::move(places));
 }
 
-Ref<clsMatrix> MaximaInOrder(const clsMatrix& m, const Variant& level)
+Ref<clsMatrix> clsMatrix::ExstremumValueAndIndexMax(const Variant& Level) const
 {
-    return TableOf(MaximaOf(m, level));
+    return TableOf(MaximaOf(*this, Level));
 }
 
-Ref<clsMatrix> LargestMaxima(const clsMatrix& m, std::int32_t& count, const Variant& level)
+Ref<clsMatrix> clsMatrix::SortExstremumMax(std::int32_t& Quantity, const Variant& Level) const
 {
-    count = std::max(count, 1);
-    std::vector<Maximum> maxima = MaximaOf(m, level);
-    const std::size_t shown = std::min(static_cast<std::size_t>(count), maxima.size());
+    Quantity = std::max(Quantity, 1);
+    std::vector<Maximum> maxima = MaximaOf(*this, Level);
+    const std::size_t shown = std::min(static_cast<std::size_t>(Quantity), maxima.size());
     // No two stand in the same place, so the order is one whatever the method.
     std::partial_sort(maxima.begin(), maxima.begin() + static_cast<std::ptrdiff_t>(shown),
                       maxima.end(), StandsBefore);

@@ -164,22 +164,10 @@ Ref<clsMatrix> PaddedZeros(std::span<const double> zeros, std::int32_t n_fft)
     return NewMatrix<clsMatrix>(std::move(row));
 }
 
-} // namespace
+/// Whether a transform is divided by its length.
+enum class Scale { None, ByLength };
 
-void Fourier(std::span<const double> x_re, std::span<const double> x_im, std::span<double> re,
-             std::span<double> im, VectorWidth width)
-{
-    const std::size_t size = re.size();
-    FirstStage(x_re, re.data(), size);
-    FirstStage(x_im, im.data(), size);
-    auto memory = UnwrittenStore<double>({CLng(size), 2});
-    const Parts factors{memory.Span().data(), memory.Span().data() + size};
-    Factors(factors, size);
-    for (std::size_t half = 2; half < size; half *= 2)
-        PerWidth<Stage>::For(WidthFor(half, width))({re.data(), im.data()}, size, half,
-                                                    factors.From(half));
-}
-
+/// What the members do: x may lack either part, which is zero then.
 Variant Transformed(const ComplexSheet& x, std::int32_t n_fft, Scale scale)
 {
     if (n_fft < 1 || x.Size() == 0 || (x.rows != 1 && x.columns != 1))
@@ -201,6 +189,7 @@ Variant Transformed(const ComplexSheet& x, std::int32_t n_fft, Scale scale)
     return result.Take();
 }
 
+/// A matrix as such an x, without its imaginary part.
 ComplexSheet RealOf(const clsMatrix& m)
 {
     const Sheet<double> sheet = SheetOf(m);
@@ -211,6 +200,22 @@ ComplexSheet RealOf(const clsComplexMatrix& m)
 {
     const ComplexSheet sheet = SheetOf(m);
     return {sheet.rows, sheet.columns, sheet.re, {}};
+}
+
+} // namespace
+
+void Fourier(std::span<const double> x_re, std::span<const double> x_im, std::span<double> re,
+             std::span<double> im, VectorWidth width)
+{
+    const std::size_t size = re.size();
+    FirstStage(x_re, re.data(), size);
+    FirstStage(x_im, im.data(), size);
+    auto memory = UnwrittenStore<double>({CLng(size), 2});
+    const Parts factors{memory.Span().data(), memory.Span().data() + size};
+    Factors(factors, size);
+    for (std::size_t half = 2; half < size; half *= 2)
+        PerWidth<Stage>::For(WidthFor(half, width))({re.data(), im.data()}, size, half,
+                                                    factors.From(half));
 }
 
 // clang-format off

@@ -1,5 +1,3 @@
-#include "numeric/speech/Gt.h"
-
 #include "base/Messages.h"
 #include "numeric/Draft.h"
 #include "numeric/NumericMessages.h"
@@ -8,6 +6,8 @@
 #include "numeric/Sheets.h"
 #include "numeric/clsComplex.h"
 #include "numeric/clsComplexMatrix.h"
+#include "numeric/clsLong.h"
+#include "numeric/clsMatrix.h"
 #include "numeric/clsMatrixComplex.h"
 
 #include <cstddef>
@@ -45,9 +45,9 @@ constexpr const char* kComparableTag = "cm";
 
 } // namespace
 
-Ref<clsLong> Greater(const clsMatrix& m, const Variant& a)
+Ref<clsLong> clsMatrix::Gt(const Variant& a) const
 {
-    const Sheet<double> x = SheetOf(m);
+    const Sheet<double> x = SheetOf(*this);
     if (IsNumeric(a)) return GreaterThan(x, Single{a.Number()});
     const std::string* const tag = TagOf(a);
     if (!tag) return {};

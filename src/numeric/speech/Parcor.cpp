@@ -1,14 +1,14 @@
-#include "numeric/speech/Parcor.h"
-
 #include "base/Numbers.h"
 #include "numeric/Finite.h"
 #include "numeric/NumericMessages.h"
 #include "numeric/Stores.h"
+#include "numeric/clsMatrix.h"
 #include "numeric/speech/Samples.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <span>
 
 namespace lumora {
@@ -109,7 +109,8 @@ Array<double> TableOfFrames(std::span<const double> sound, std::int32_t order, s
     return table;
 }
 
-} // namespace
+/// What may be analysed as one frame without framing.
+enum class LoneFrame { Row, RowOrColumn };
 
 Variant ParcorTable(const clsMatrix& sound, std::int32_t Npred, std::int32_t& Window,
                     std::int32_t& Shift, LoneFrame lone)
@@ -126,6 +127,18 @@ Variant ParcorTable(const clsMatrix& sound, std::int32_t Npred, std::int32_t& Wi
     if (Window < length) return NewMatrix<clsMatrix>(TableOfFrames(samples, Npred, Window, Shift));
     if (!row && lone == LoneFrame::Row) Raise(ErrorNumber::Subscript);
     return NewMatrix<clsMatrix>(TableOfOne(samples, Npred));
+}
+
+} // namespace
+
+Variant clsMatrix::Parcor_Burg(std::int32_t Npred, std::int32_t& Window, std::int32_t& Shift) const
+{
+    return ParcorTable(*this, Npred, Window, Shift, LoneFrame::Row);
+}
+
+Variant clsMatrix::Parcor_Burg1(std::int32_t Npred, std::int32_t& Window, std::int32_t& Shift) const
+{
+    return ParcorTable(*this, Npred, Window, Shift, LoneFrame::RowOrColumn);
 }
 
 } // namespace lumora

@@ -1,13 +1,13 @@
-#include "numeric/speech/PredictionFilter.h"
-
 #include "base/Numbers.h"
 #include "numeric/Computed.h"
 #include "numeric/Sheets.h"
 #include "numeric/Stores.h"
+#include "numeric/clsMatrix.h"
 #include "numeric/speech/Samples.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <span>
 
 namespace lumora {
@@ -112,9 +112,9 @@ Ref<clsMatrix> ReflectionsBetween(std::span<const double> area, std::int32_t ord
 
 } // namespace
 
-Ref<clsMatrix> PredictorOf(const clsMatrix& reflections)
+Ref<clsMatrix> clsMatrix::Pred_Lat() const
 {
-    const std::span<const double> k = SamplesOf(reflections);
+    const std::span<const double> k = SamplesOf(*this);
     Array<double> predictor = UnwrittenStore<double>({1, CLng(k.size())});
     Array<double> before = predictor;
     const auto a = predictor.Span();
@@ -128,10 +128,10 @@ Ref<clsMatrix> PredictorOf(const clsMatrix& reflections)
     return Filtered(std::move(predictor), k);
 }
 
-Ref<clsMatrix> Residual(const clsMatrix& sound, const clsMatrix& parcor, const clsMatrix& start,
-                        std::int32_t frame)
+Ref<clsMatrix> clsMatrix::Parcor_Resid(const clsMatrix& parcor, const clsMatrix& start,
+                                       std::int32_t frame) const
 {
-    const std::span<const double> x = SamplesOf(sound);
+    const std::span<const double> x = SamplesOf(*this);
     const Sheet<double> table = SheetOf(parcor);
     const std::span<const double> before = SamplesOf(start);
     Array<double> error = ZeroStore<double>({1, CLng(x.size())});
@@ -143,8 +143,8 @@ Ref<clsMatrix> Residual(const clsMatrix& sound, const clsMatrix& parcor, const c
     return Filtered(std::move(error), x, table.values, before);
 }
 
-Ref<clsMatrix> Synthesis(const clsMatrix& excitation, const clsMatrix& parcor,
-                         const clsMatrix& start, double tract, std::int32_t frame)
+Ref<clsMatrix> clsMatrix::Parcor_Direct(const clsMatrix& parcor, const clsMatrix& start,
+                                        double tract, std::int32_t frame) const
 {
     // A table with one frame in each row is told by the number of its rows.
     const bool by_rows = frame / 10.0 + 2.0 != parcor.size1;
@@ -152,7 +152,7 @@ Ref<clsMatrix> Synthesis(const clsMatrix& excitation, const clsMatrix& parcor,
     const clsMatrix& table = by_rows ? *turned : parcor;
     const std::int32_t order = CLng(table.size1 * tract + 1.0);
 
-    const std::span<const double> x = SamplesOf(excitation);
+    const std::span<const double> x = SamplesOf(*this);
     const std::span<const double> before = SamplesOf(start);
     Array<double> output = UnwrittenStore<double>({1, CLng(x.size())});
     const auto y = output.Span();

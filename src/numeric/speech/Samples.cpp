@@ -39,29 +39,29 @@ std::span<const double> SamplesOf(const clsMatrix& vector)
     return sheet.values;
 }
 
-double DotProduct(const clsMatrix& row, std::int32_t first, std::int32_t second,
-                  const Variant& length)
+double clsMatrix::ScallProd(std::int32_t IndexFirst, std::int32_t IndexSecond,
+                            const Variant& length1) const
 {
-    const Sheet<double> sheet = SheetOf(row);
+    const Sheet<double> sheet = SheetOf(*this);
     if (sheet.rows != 1) return 0.0;
-    const std::int32_t count = CLng(length.Number());
+    const std::int32_t count = CLng(length1.Number());
     if (count < 1) return 0.0;
     if (sheet.IsScalar()) Raise(ErrorNumber::Subscript);
-    const std::span<const double> x = Stretch(sheet.values, first, count);
-    const std::span<const double> y = Stretch(sheet.values, second, count);
+    const std::span<const double> x = Stretch(sheet.values, IndexFirst, count);
+    const std::span<const double> y = Stretch(sheet.values, IndexSecond, count);
     double sum = 0.0;
     for (std::size_t k = 0; k < x.size(); ++k)
         sum = Computed(sum + x[k] * y[k], sum, x[k], y[k]);
     return sum;
 }
 
-Ref<clsMatrix> MinusAverage(const clsMatrix& vector, const Variant& count)
+Ref<clsMatrix> clsMatrix::SoundMinusAverage1(const Variant& Num) const
 {
-    const std::span<const double> x = SamplesOf(vector);
-    const double average = Average(x, CLng(count.Number()));
-    Array<double> result = ZeroStore<double>(SizesOf(vector));
+    const std::span<const double> x = SamplesOf(*this);
+    const double average = Average(x, CLng(Num.Number()));
+    Array<double> result = ZeroStore<double>(SizesOf(*this));
     // A row loses its average everywhere, a column in its first sample alone.
-    for (std::size_t k = 0; k < static_cast<std::size_t>(vector.size2); ++k)
+    for (std::size_t k = 0; k < static_cast<std::size_t>(size2); ++k)
         result.Span()[k] = Computed(x[k] - average, x[k], average);
     return NewMatrix<clsMatrix>(std::move(result));
 }
