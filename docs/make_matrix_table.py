@@ -43,8 +43,8 @@ def stopping(cls):
     lines = (ROOT / "src" / "numeric" / "linear" / f"{cls}Operators.cpp")
     stops = set()
     if lines.exists():
-        bodies = re.findall(rf"{cls}::(\w+) *\(.*return (.*);", lines.read_text())
-        stops = {name for name, body in bodies if "PassedOnAs" in body}
+        bodies = re.findall(r"\w+::(\w+) *\(.*return (.*);", lines.read_text())
+        stops = {name for name, body in bodies if "Stops<" in body}
         stops |= {name for name, body in bodies if body.split("(")[0] in stops}
     return stops
 

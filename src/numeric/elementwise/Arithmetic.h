@@ -76,7 +76,7 @@ template <class Rule, class B> Ref<clsComplex> ArithScalar(const clsComplex& lef
 
 /// What becomes of a result that is not of the class its member declares: error 13, unless it is
 /// empty. Deliberate; callers keep clear of these members.
-template <class Declared, class Held> Ref<Declared> PassedOnAs(const Ref<Held>& result)
+template <class Declared, class Held> Ref<Declared> Stops(const Ref<Held>& result)
 {
     if (result) Raise(ErrorNumber::TypeMismatch);
     return {};

@@ -1,68 +1,70 @@
 #include "numeric/clsLong.h"
 
+#include "numeric/TableNames.h"
 #include "numeric/elementwise/Arithmetic.h"
 #include "numeric/linear/Dispatch.h"
+#include "numeric/linear/OperatorMembers.h"
 #include "numeric/linear/Product.h"
 
 namespace lumora {
 
-// Result class, operand, rule: a line a member. PassedOnAs marks the members that stop.
+// Result class, operand, rule: a line a member. Stops marks the members that stop.
 // clang-format off
-Ref<clsLong>          clsLong::MtimesL         (const clsLong& b)                const { return Product<clsLong>(*this, b); }
-Ref<clsMatrix>        clsLong::MtimesR         (const clsMatrix& b)              const { return Product<clsMatrix>(*this, b); }
-Ref<clsComplexMatrix> clsLong::MtimesC         (const clsComplexMatrix& b)       const { return Product<clsComplexMatrix>(*this, b); }
-Ref<clsComplexMatrix> clsLong::MtimesMC        (const clsMatrixComplex& b)       const { return MtimesC(*Wrapped(b)); }
-Ref<clsLong>          clsLong::MtimesLongNum   (std::int32_t b)                  const { return Arith<clsLong, TimesRule>(*this, b); }
-Ref<clsMatrix>        clsLong::MtimesNum       (double b)                        const { return Arith<clsMatrix, TimesRule>(*this, b); }
-Ref<clsComplexMatrix> clsLong::MtimesComplexNum(const clsComplex& b)             const { return Arith<clsComplexMatrix, TimesRule>(*this, b); }
-Ref<clsComplexMatrix> clsLong::MtimesCArray    (const Array<Ref<clsComplex>>& b) const { return MtimesC(*Wrapped(b)); }
-Ref<clsMatrix>        clsLong::MtimesRArray    (const Array<double>& b)          const { return MtimesR(*Wrapped(b)); }
-Ref<clsLong>          clsLong::MtimesLArray    (const Array<std::int32_t>& b)    const { return MtimesL(*Wrapped(b)); }
-Variant               clsLong::MTimes          (const Variant& Obj) const { return Dispatch(*this, Obj, &clsLong::MtimesComplexNum, &clsLong::MtimesR, &clsLong::MtimesL, &clsLong::MtimesC, &clsLong::MtimesMC, &clsLong::MtimesLArray, &clsLong::MtimesRArray, &clsLong::MtimesCArray, &clsLong::MtimesNum); }
+Ref<Longs>   Longs::MtimesL         (const Longs& b)     const { return Product<Longs>(*this, b); }
+Ref<Reals>   Longs::MtimesR         (const Reals& b)     const { return Product<Reals>(*this, b); }
+Ref<Complex> Longs::MtimesC         (const Complex& b)   const { return Product<Complex>(*this, b); }
+Ref<Complex> Longs::MtimesMC        (const Objects& b)   const { return MtimesC(*Wrapped(b)); }
+Ref<Longs>   Longs::MtimesLongNum   (std::int32_t b)     const { return Arith<Longs, TimesRule>(*this, b); }
+Ref<Reals>   Longs::MtimesNum       (double b)           const { return Arith<Reals, TimesRule>(*this, b); }
+Ref<Complex> Longs::MtimesComplexNum(const Scalar& b)    const { return Arith<Complex, TimesRule>(*this, b); }
+Ref<Complex> Longs::MtimesCArray    (const Scalars& b)   const { return MtimesC(*Wrapped(b)); }
+Ref<Reals>   Longs::MtimesRArray    (const Doubles& b)   const { return MtimesR(*Wrapped(b)); }
+Ref<Longs>   Longs::MtimesLArray    (const Integers& b)  const { return MtimesL(*Wrapped(b)); }
+Variant      Longs::MTimes          (const Variant& Obj) const { return Dispatch<MtimesMembers>(*this, Obj); }
 
-Ref<clsComplexMatrix> clsLong::TimesC         (const clsComplexMatrix& b)       const { return Arith<clsComplexMatrix, TimesRule>(*this, b); }
-Ref<clsMatrix>        clsLong::TimesR         (const clsMatrix& b)              const { return Arith<clsMatrix, TimesRule>(*this, b); }
-Ref<clsLong>          clsLong::TimesL         (const clsLong& b)                const { return Arith<clsLong, TimesRule>(*this, b); }
-Ref<clsMatrix>        clsLong::TimesNum       (double b)                        const { return Arith<clsMatrix, TimesRule>(*this, b); }
-Ref<clsComplexMatrix> clsLong::TimesComplexNum(const clsComplex& b)             const { return Arith<clsComplexMatrix, TimesRule>(*this, b); }
-Ref<clsComplexMatrix> clsLong::TimesMC        (const clsMatrixComplex& b)       const { return TimesC(*Wrapped(b)); }
-Ref<clsMatrix>        clsLong::TimesRArray    (const Array<double>& b)          const { return TimesR(*Wrapped(b)); }
-Ref<clsMatrix>        clsLong::TimesLArray    (const Array<std::int32_t>& b)    const { return PassedOnAs<clsMatrix>(TimesL(*Wrapped(b))); }
-Ref<clsComplexMatrix> clsLong::TimesCArray    (const Array<Ref<clsComplex>>& b) const { return TimesC(*Wrapped(b)); }
-Variant               clsLong::Times          (const Variant& Obj) const { return Dispatch(*this, Obj, &clsLong::TimesComplexNum, &clsLong::TimesR, &clsLong::TimesL, &clsLong::TimesC, &clsLong::TimesMC, &clsLong::TimesLArray, &clsLong::TimesRArray, &clsLong::TimesCArray, &clsLong::TimesNum); }
+Ref<Complex> Longs::TimesC         (const Complex& b)   const { return Arith<Complex, TimesRule>(*this, b); }
+Ref<Reals>   Longs::TimesR         (const Reals& b)     const { return Arith<Reals, TimesRule>(*this, b); }
+Ref<Longs>   Longs::TimesL         (const Longs& b)     const { return Arith<Longs, TimesRule>(*this, b); }
+Ref<Reals>   Longs::TimesNum       (double b)           const { return Arith<Reals, TimesRule>(*this, b); }
+Ref<Complex> Longs::TimesComplexNum(const Scalar& b)    const { return Arith<Complex, TimesRule>(*this, b); }
+Ref<Complex> Longs::TimesMC        (const Objects& b)   const { return TimesC(*Wrapped(b)); }
+Ref<Reals>   Longs::TimesRArray    (const Doubles& b)   const { return TimesR(*Wrapped(b)); }
+Ref<Reals>   Longs::TimesLArray    (const Integers& b)  const { return Stops<Reals>(TimesL(*Wrapped(b))); }
+Ref<Complex> Longs::TimesCArray    (const Scalars& b)   const { return TimesC(*Wrapped(b)); }
+Variant      Longs::Times          (const Variant& Obj) const { return Dispatch<TimesMembers>(*this, Obj); }
 
-Ref<clsComplexMatrix> clsLong::PlusC         (const clsComplexMatrix& b)       const { return Arith<clsComplexMatrix, PlusRule>(*this, b); }
-Ref<clsMatrix>        clsLong::PlusR         (const clsMatrix& b)              const { return Arith<clsMatrix, PlusRule>(*this, b); }
-Ref<clsLong>          clsLong::PlusL         (const clsLong& b)                const { return Arith<clsLong, PlusRule>(*this, b); }
-Ref<clsMatrix>        clsLong::PlusNum       (double b)                        const { return PassedOnAs<clsMatrix>(Arith<clsMatrix, PlusRule>(*this, b)); }
-Ref<clsComplexMatrix> clsLong::PlusComplexNum(const clsComplex& b)             const { return Arith<clsComplexMatrix, PlusRule>(*this, b); }
-Ref<clsComplexMatrix> clsLong::PlusMC        (const clsMatrixComplex& b)       const { return PlusC(*Wrapped(b)); }
-Ref<clsMatrix>        clsLong::PlusRArray    (const Array<double>& b)          const { return PlusR(*Wrapped(b)); }
-Ref<clsLong>          clsLong::PlusLArray    (const Array<std::int32_t>& b)    const { return PlusL(*Wrapped(b)); }
-Ref<clsComplexMatrix> clsLong::PlusCArray    (const Array<Ref<clsComplex>>& b) const { return PlusC(*Wrapped(b)); }
-Variant               clsLong::Plus          (const Variant& Obj) const { return Dispatch(*this, Obj, &clsLong::PlusComplexNum, &clsLong::PlusR, &clsLong::PlusL, &clsLong::PlusC, &clsLong::PlusMC, &clsLong::PlusLArray, &clsLong::PlusRArray, &clsLong::PlusCArray, &clsLong::PlusNum); }
+Ref<Complex> Longs::PlusC         (const Complex& b)   const { return Arith<Complex, PlusRule>(*this, b); }
+Ref<Reals>   Longs::PlusR         (const Reals& b)     const { return Arith<Reals, PlusRule>(*this, b); }
+Ref<Longs>   Longs::PlusL         (const Longs& b)     const { return Arith<Longs, PlusRule>(*this, b); }
+Ref<Reals>   Longs::PlusNum       (double b)           const { return Stops<Reals>(Arith<Reals, PlusRule>(*this, b)); }
+Ref<Complex> Longs::PlusComplexNum(const Scalar& b)    const { return Arith<Complex, PlusRule>(*this, b); }
+Ref<Complex> Longs::PlusMC        (const Objects& b)   const { return PlusC(*Wrapped(b)); }
+Ref<Reals>   Longs::PlusRArray    (const Doubles& b)   const { return PlusR(*Wrapped(b)); }
+Ref<Longs>   Longs::PlusLArray    (const Integers& b)  const { return PlusL(*Wrapped(b)); }
+Ref<Complex> Longs::PlusCArray    (const Scalars& b)   const { return PlusC(*Wrapped(b)); }
+Variant      Longs::Plus          (const Variant& Obj) const { return Dispatch<PlusMembers>(*this, Obj); }
 
-Ref<clsComplexMatrix> clsLong::MinusC         (const clsComplexMatrix& b)       const { return Arith<clsComplexMatrix, MinusRule>(*this, b); }
-Ref<clsMatrix>        clsLong::MinusR         (const clsMatrix& b)              const { return Arith<clsMatrix, MinusRule>(*this, b); }
-Ref<clsLong>          clsLong::MinusL         (const clsLong& b)                const { return Arith<clsLong, MinusRule>(*this, b); }
-Ref<clsMatrix>        clsLong::MinusNum       (double b)                        const { return Arith<clsMatrix, MinusRule>(*this, b); }
-Ref<clsComplexMatrix> clsLong::MinusComplexNum(const clsComplex& b)             const { return Arith<clsComplexMatrix, MinusRule>(*this, b); }
-Ref<clsComplexMatrix> clsLong::MinusMC        (const clsMatrixComplex& b)       const { return MinusC(*Wrapped(b)); }
-Ref<clsMatrix>        clsLong::MinusRArray    (const Array<double>& b)          const { return MinusR(*Wrapped(b)); }
-Ref<clsLong>          clsLong::MinusLArray    (const Array<std::int32_t>& b)    const { return MinusL(*Wrapped(b)); }
-Ref<clsComplexMatrix> clsLong::MinusCArray    (const Array<Ref<clsComplex>>& b) const { return MinusC(*Wrapped(b)); }
-Variant               clsLong::Minus          (const Variant& Obj) const { return Dispatch(*this, Obj, &clsLong::MinusComplexNum, &clsLong::MinusR, &clsLong::MinusL, &clsLong::MinusC, &clsLong::MinusMC, &clsLong::MinusLArray, &clsLong::MinusRArray, &clsLong::MinusCArray, &clsLong::MinusNum); }
+Ref<Complex> Longs::MinusC         (const Complex& b)   const { return Arith<Complex, MinusRule>(*this, b); }
+Ref<Reals>   Longs::MinusR         (const Reals& b)     const { return Arith<Reals, MinusRule>(*this, b); }
+Ref<Longs>   Longs::MinusL         (const Longs& b)     const { return Arith<Longs, MinusRule>(*this, b); }
+Ref<Reals>   Longs::MinusNum       (double b)           const { return Arith<Reals, MinusRule>(*this, b); }
+Ref<Complex> Longs::MinusComplexNum(const Scalar& b)    const { return Arith<Complex, MinusRule>(*this, b); }
+Ref<Complex> Longs::MinusMC        (const Objects& b)   const { return MinusC(*Wrapped(b)); }
+Ref<Reals>   Longs::MinusRArray    (const Doubles& b)   const { return MinusR(*Wrapped(b)); }
+Ref<Longs>   Longs::MinusLArray    (const Integers& b)  const { return MinusL(*Wrapped(b)); }
+Ref<Complex> Longs::MinusCArray    (const Scalars& b)   const { return MinusC(*Wrapped(b)); }
+Variant      Longs::Minus          (const Variant& Obj) const { return Dispatch<MinusMembers>(*this, Obj); }
 
-Ref<clsComplexMatrix> clsLong::RdivideC         (const clsComplexMatrix& b)       const { return Arith<clsComplexMatrix, RdivideRule>(*this, b); }
-Ref<clsMatrix>        clsLong::RdivideR         (const clsMatrix& b)              const { return Arith<clsMatrix, RdivideRule>(*this, b); }
-Ref<clsMatrix>        clsLong::RdivideL         (const clsLong& b)                const { return Arith<clsMatrix, RdivideRule>(*this, b); }
-Ref<clsMatrix>        clsLong::RdivideNum       (double b)                        const { return Arith<clsMatrix, RdivideRule>(*this, b); }
-Ref<clsComplexMatrix> clsLong::RdivideComplexNum(const clsComplex& b)             const { return Arith<clsComplexMatrix, RdivideRule>(*this, b); }
-Ref<clsComplexMatrix> clsLong::RdivideMC        (const clsMatrixComplex& b)       const { return RdivideC(*Wrapped(b)); }
-Ref<clsMatrix>        clsLong::RdivideRArray    (const Array<double>& b)          const { return RdivideR(*Wrapped(b)); }
-Ref<clsMatrix>        clsLong::RdivideLArray    (const Array<std::int32_t>& b)    const { return RdivideL(*Wrapped(b)); }
-Ref<clsComplexMatrix> clsLong::RdivideCArray    (const Array<Ref<clsComplex>>& b) const { return RdivideC(*Wrapped(b)); }
-Variant               clsLong::Rdivide          (const Variant& Obj) const { return Dispatch(*this, Obj, &clsLong::RdivideComplexNum, &clsLong::RdivideR, &clsLong::RdivideL, &clsLong::RdivideC, &clsLong::RdivideMC, &clsLong::RdivideLArray, &clsLong::RdivideRArray, &clsLong::RdivideCArray, &clsLong::RdivideNum); }
+Ref<Complex> Longs::RdivideC         (const Complex& b)   const { return Arith<Complex, RdivideRule>(*this, b); }
+Ref<Reals>   Longs::RdivideR         (const Reals& b)     const { return Arith<Reals, RdivideRule>(*this, b); }
+Ref<Reals>   Longs::RdivideL         (const Longs& b)     const { return Arith<Reals, RdivideRule>(*this, b); }
+Ref<Reals>   Longs::RdivideNum       (double b)           const { return Arith<Reals, RdivideRule>(*this, b); }
+Ref<Complex> Longs::RdivideComplexNum(const Scalar& b)    const { return Arith<Complex, RdivideRule>(*this, b); }
+Ref<Complex> Longs::RdivideMC        (const Objects& b)   const { return RdivideC(*Wrapped(b)); }
+Ref<Reals>   Longs::RdivideRArray    (const Doubles& b)   const { return RdivideR(*Wrapped(b)); }
+Ref<Reals>   Longs::RdivideLArray    (const Integers& b)  const { return RdivideL(*Wrapped(b)); }
+Ref<Complex> Longs::RdivideCArray    (const Scalars& b)   const { return RdivideC(*Wrapped(b)); }
+Variant      Longs::Rdivide          (const Variant& Obj) const { return Dispatch<RdivideMembers>(*this, Obj); }
 // clang-format on
 
 } // namespace lumora
