@@ -63,5 +63,17 @@ Sheet<Ref<clsComplex>> SheetOf(const clsMatrixComplex& m);
 Sheet<std::string> SheetOf(const clsString& m);
 Sheet<Variant> SheetOf(const clsVariant& m);
 Single<ComplexValue> SheetOf(const clsComplex& z);
+inline Single<double> SheetOf(double x)
+{
+    return {x};
+}
+inline Single<std::int32_t> SheetOf(std::int32_t x)
+{
+    return {x};
+}
+inline Single<std::string> SheetOf(const std::string& x)
+{
+    return {x};
+}
 
 } // namespace lumora

@@ -12,15 +12,6 @@
 
 namespace lumora {
 
-inline Single<double> SheetOf(double x)
-{
-    return {x};
-}
-inline Single<std::int32_t> SheetOf(std::int32_t x)
-{
-    return {x};
-}
-
 /// An element as the arithmetic of class R takes it: whole numbers stay whole only for a clsLong.
 template <class R, class T> auto Taken(const T& element)
 {

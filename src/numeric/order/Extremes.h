@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "numeric/clsLong.h"
 #include "numeric/clsMatrix.h"
+#include "numeric/order/Comparers.h"
 #include "numeric/order/LineFold.h"
 
 #include <algorithm>
@@ -94,7 +95,7 @@ template <class S, class Wins> auto FirstExtreme(const S& sheet, Wins wins)
     return found;
 }
 
-/// MinDim and MaxDim; empty for another dimention.
+/// The extreme of each line; empty for another dimention.
 template <class M, class Wins> Ref<M> ExtremesAlong(const M& m, const Variant& dimention, Wins wins)
 {
     const auto sheet = SheetOf(m);
@@ -105,8 +106,8 @@ template <class M, class Wins> Ref<M> ExtremesAlong(const M& m, const Variant& d
 }
 
 /// The same of a complex class: a clsMatrix if no imaginary part is left.
-template <class M, class Wins>
-Variant ComplexExtremesAlong(const M& m, const Variant& dimention, Wins wins)
+template <ComplexClass M, class Wins>
+Variant ExtremesAlong(const M& m, const Variant& dimention, Wins wins)
 {
     const auto sheet = SheetOf(m);
     const std::optional<Lines> lines = LinesAlong(dimention, sheet.rows);
@@ -120,7 +121,7 @@ Variant ComplexExtremesAlong(const M& m, const Variant& dimention, Wins wins)
     return OneOfEachLine<M>(*lines, standings, [](const auto& standing) { return standing.value; });
 }
 
-/// MinIndex and MaxIndex.
+/// Where in its line the extreme of each stands, from 1.
 template <class M, class Wins>
 Ref<clsLong> PlacesAlong(const M& m, const Variant& dimention, Wins wins)
 {
@@ -131,7 +132,7 @@ Ref<clsLong> PlacesAlong(const M& m, const Variant& dimention, Wins wins)
                                   [](const auto& standing) { return CLng(standing.place + 1); });
 }
 
-/// Minmax as class R: values, rows, columns; the minimum first.
+/// The minimum and the maximum as class R: values, rows, columns; the minimum first.
 template <class R, class T> Ref<R> MinmaxRow(const Found<T>& min, const Found<T>& max)
 {
     Draft<R> row(Sizes{1, 6});
@@ -142,6 +143,45 @@ template <class R, class T> Ref<R> MinmaxRow(const Found<T>& min, const Found<T>
     row.Put(4, CLng(min.column + 1));
     row.Put(5, CLng(max.column + 1));
     return row.Take();
+}
+
+// What the members ask for. A tolerance asks for the complex rule.
+
+template <class M, class... Tolerance> auto SmallestOf(const M& m, Tolerance... tolerance)
+{
+    return FirstExtreme(SheetOf(m), SmallerBy(tolerance...)).value;
+}
+template <class M, class... Tolerance> auto LargestOf(const M& m, Tolerance... tolerance)
+{
+    return FirstExtreme(SheetOf(m), LargerBy(tolerance...)).value;
+}
+template <class R, class M, class... Tolerance> Ref<R> MinmaxOf(const M& m, Tolerance... tolerance)
+{
+    const auto sheet = SheetOf(m);
+    return MinmaxRow<R>(FirstExtreme(sheet, SmallerBy(tolerance...)),
+                        FirstExtreme(sheet, LargerBy(tolerance...)));
+}
+
+template <class M, class... Tolerance>
+auto SmallestAlong(const M& m, const Variant& dimention, Tolerance... tolerance)
+{
+    return ExtremesAlong(m, dimention, SmallerBy(tolerance...));
+}
+template <class M, class... Tolerance>
+auto LargestAlong(const M& m, const Variant& dimention, Tolerance... tolerance)
+{
+    return ExtremesAlong(m, dimention, LargerBy(tolerance...));
+}
+
+template <class M, class... Tolerance>
+Ref<clsLong> SmallestPlaces(const M& m, const Variant& dimention, Tolerance... tolerance)
+{
+    return PlacesAlong(m, dimention, SmallerBy(tolerance...));
+}
+template <class M, class... Tolerance>
+Ref<clsLong> LargestPlaces(const M& m, const Variant& dimention, Tolerance... tolerance)
+{
+    return PlacesAlong(m, dimention, LargerBy(tolerance...));
 }
 
 } // namespace lumora

@@ -2,43 +2,13 @@
 
 #include "base/Messages.h"
 #include "numeric/Draft.h"
-#include "numeric/ElementValues.h"
 #include "numeric/NumericMessages.h"
-#include "numeric/order/MinMax.h"
+#include "numeric/Sheets.h"
+#include "numeric/order/Comparers.h"
 
 #include <cstddef>
 
 namespace lumora {
-
-// Does an element win against the one that stands? Strictly: of equal ones the first stands, and a
-// NaN never wins.
-struct Smaller {
-    template <class A, class B> bool operator()(const A& x, const B& standing) const
-    {
-        return x < standing;
-    }
-};
-struct Larger {
-    template <class A, class B> bool operator()(const A& x, const B& standing) const
-    {
-        return standing < x;
-    }
-};
-/// The same by the complex rule.
-struct SmallerComplex {
-    double tolerance = 0.0;
-    template <class A, class B> bool operator()(const A& x, const B& standing) const
-    {
-        return IsSmaller(AsComplex(x), AsComplex(standing), tolerance);
-    }
-};
-struct LargerComplex {
-    double tolerance = 0.0;
-    template <class A, class B> bool operator()(const A& x, const B& standing) const
-    {
-        return IsSmaller(AsComplex(standing), AsComplex(x), tolerance);
-    }
-};
 
 /// Each element of a against the same one of b, or against a single value; a's where they are
 /// equal. Other sizes: the message, and empty.
@@ -60,6 +30,19 @@ template <class M, class A, class B, class Wins> Ref<M> Pairwise(const A& a, con
             result.Put(k, a[k]);
     }
     return result.Take();
+}
+
+// The smaller or the larger of each pair of elements, as class M. A tolerance asks for the complex
+// rule.
+template <class M, class A, class B, class... Tolerance>
+Ref<M> SmallerOf(const A& a, const B& b, Tolerance... tolerance)
+{
+    return Pairwise<M>(SheetOf(a), SheetOf(b), SmallerBy(tolerance...));
+}
+template <class M, class A, class B, class... Tolerance>
+Ref<M> LargerOf(const A& a, const B& b, Tolerance... tolerance)
+{
+    return Pairwise<M>(SheetOf(a), SheetOf(b), LargerBy(tolerance...));
 }
 
 } // namespace lumora

@@ -1,5 +1,6 @@
 #include "numeric/clsComplexMatrix.h"
 
+#include "numeric/TableNames.h"
 #include "numeric/order/Extremes.h"
 #include "numeric/order/Pairwise.h"
 #include "numeric/order/Quantifiers.h"
@@ -9,31 +10,31 @@
 namespace lumora {
 
 // clang-format off
-Ref<clsComplex>       clsComplexMatrix::Min             (double Tolerance)                            const { return AsObject(FirstExtreme(SheetOf(*this), SmallerComplex{Tolerance}).value); }
-Ref<clsComplex>       clsComplexMatrix::Max             (double Tolerance)                            const { return AsObject(FirstExtreme(SheetOf(*this), LargerComplex{Tolerance}).value); }
-Ref<clsComplexMatrix> clsComplexMatrix::Minmax          (double Tolerance)                            const { return MinmaxRow<clsComplexMatrix>(FirstExtreme(SheetOf(*this), SmallerComplex{Tolerance}), FirstExtreme(SheetOf(*this), LargerComplex{Tolerance})); }
-Variant               clsComplexMatrix::MinDim          (const Variant& dimention, double Tolerance)  const { return ComplexExtremesAlong(*this, dimention, SmallerComplex{Tolerance}); }
-Variant               clsComplexMatrix::MaxDim          (const Variant& dimention, double Tolerance)  const { return ComplexExtremesAlong(*this, dimention, LargerComplex{Tolerance}); }
-Ref<clsLong>          clsComplexMatrix::MinIndex        (const Variant& dimention, double Tolerance)  const { return PlacesAlong(*this, dimention, SmallerComplex{Tolerance}); }
-Ref<clsLong>          clsComplexMatrix::MaxIndex        (const Variant& dimention, double Tolerance)  const { return PlacesAlong(*this, dimention, LargerComplex{Tolerance}); }
+Ref<Scalar>  Complex::Min     (double tol)                     const { return AsObject(SmallestOf(*this, tol)); }
+Ref<Scalar>  Complex::Max     (double tol)                     const { return AsObject(LargestOf(*this, tol)); }
+Ref<Complex> Complex::Minmax  (double tol)                     const { return MinmaxOf<Complex>(*this, tol); }
+Variant      Complex::MinDim  (const Variant& dim, double tol) const { return SmallestAlong(*this, dim, tol); }
+Variant      Complex::MaxDim  (const Variant& dim, double tol) const { return LargestAlong(*this, dim, tol); }
+Ref<Longs>   Complex::MinIndex(const Variant& dim, double tol) const { return SmallestPlaces(*this, dim, tol); }
+Ref<Longs>   Complex::MaxIndex(const Variant& dim, double tol) const { return LargestPlaces(*this, dim, tol); }
 
-Ref<clsComplexMatrix> clsComplexMatrix::MinCC           (const clsComplexMatrix& a, double Tolerance) const { return Pairwise<clsComplexMatrix>(SheetOf(*this), SheetOf(a), SmallerComplex{Tolerance}); }
-Ref<clsComplexMatrix> clsComplexMatrix::MaxCC           (const clsComplexMatrix& a, double Tolerance) const { return Pairwise<clsComplexMatrix>(SheetOf(*this), SheetOf(a), LargerComplex{Tolerance}); }
-Ref<clsComplexMatrix> clsComplexMatrix::MinCD           (const clsMatrix& a, double Tolerance)        const { return Pairwise<clsComplexMatrix>(SheetOf(*this), SheetOf(a), SmallerComplex{Tolerance}); }
-Ref<clsComplexMatrix> clsComplexMatrix::MaxCD           (const clsMatrix& a, double Tolerance)        const { return Pairwise<clsComplexMatrix>(SheetOf(*this), SheetOf(a), LargerComplex{Tolerance}); }
-Ref<clsComplexMatrix> clsComplexMatrix::MinCL           (const clsLong& a, double Tolerance)          const { return Pairwise<clsComplexMatrix>(SheetOf(*this), SheetOf(a), SmallerComplex{Tolerance}); }
-Ref<clsComplexMatrix> clsComplexMatrix::MaxCL           (const clsLong& a, double Tolerance)          const { return Pairwise<clsComplexMatrix>(SheetOf(*this), SheetOf(a), LargerComplex{Tolerance}); }
-Ref<clsComplexMatrix> clsComplexMatrix::MinNum          (double x, double Tolerance)                  const { return Pairwise<clsComplexMatrix>(SheetOf(*this), Single{x}, SmallerComplex{Tolerance}); }
-Ref<clsComplexMatrix> clsComplexMatrix::MaxNum          (double x, double Tolerance)                  const { return Pairwise<clsComplexMatrix>(SheetOf(*this), Single{x}, LargerComplex{Tolerance}); }
-Ref<clsComplexMatrix> clsComplexMatrix::MinComplex      (const clsComplex& z, double Tolerance)       const { return Pairwise<clsComplexMatrix>(SheetOf(*this), SheetOf(z), SmallerComplex{Tolerance}); }
-Ref<clsComplexMatrix> clsComplexMatrix::MaxComplex      (const clsComplex& z, double Tolerance)       const { return Pairwise<clsComplexMatrix>(SheetOf(*this), SheetOf(z), LargerComplex{Tolerance}); }
-Ref<clsComplexMatrix> clsComplexMatrix::MinMatrixComplex(const clsMatrixComplex& a, double Tolerance) const { return Pairwise<clsComplexMatrix>(SheetOf(*this), SheetOf(a), SmallerComplex{Tolerance}); }
-Ref<clsComplexMatrix> clsComplexMatrix::MaxMatrixComplex(const clsMatrixComplex& a, double Tolerance) const { return Pairwise<clsComplexMatrix>(SheetOf(*this), SheetOf(a), LargerComplex{Tolerance}); }
+Ref<Complex> Complex::MinCC           (const Complex& a, double tol) const { return SmallerOf<Complex>(*this, a, tol); }
+Ref<Complex> Complex::MaxCC           (const Complex& a, double tol) const { return LargerOf<Complex>(*this, a, tol); }
+Ref<Complex> Complex::MinCD           (const Reals& a, double tol)   const { return SmallerOf<Complex>(*this, a, tol); }
+Ref<Complex> Complex::MaxCD           (const Reals& a, double tol)   const { return LargerOf<Complex>(*this, a, tol); }
+Ref<Complex> Complex::MinCL           (const Longs& a, double tol)   const { return SmallerOf<Complex>(*this, a, tol); }
+Ref<Complex> Complex::MaxCL           (const Longs& a, double tol)   const { return LargerOf<Complex>(*this, a, tol); }
+Ref<Complex> Complex::MinNum          (double x, double tol)         const { return SmallerOf<Complex>(*this, x, tol); }
+Ref<Complex> Complex::MaxNum          (double x, double tol)         const { return LargerOf<Complex>(*this, x, tol); }
+Ref<Complex> Complex::MinComplex      (const Scalar& z, double tol)  const { return SmallerOf<Complex>(*this, z, tol); }
+Ref<Complex> Complex::MaxComplex      (const Scalar& z, double tol)  const { return LargerOf<Complex>(*this, z, tol); }
+Ref<Complex> Complex::MinMatrixComplex(const Objects& a, double tol) const { return SmallerOf<Complex>(*this, a, tol); }
+Ref<Complex> Complex::MaxMatrixComplex(const Objects& a, double tol) const { return LargerOf<Complex>(*this, a, tol); }
 
-Ref<clsLong>          clsComplexMatrix::All             (const Variant& dimention)                    const { return AskedAlong(*this, dimention, Quantifier::All); }
-Ref<clsLong>          clsComplexMatrix::AnyObj          (const Variant& dimention)                    const { return AskedAlong(*this, dimention, Quantifier::Any); }
-bool                  clsComplexMatrix::AllAll          ()                                            const { return Asked(*this, Quantifier::All); }
-bool                  clsComplexMatrix::AnyAny          ()                                            const { return Asked(*this, Quantifier::Any); }
+Ref<Longs> Complex::All   (const Variant& dim) const { return AskedAlong(*this, dim, Quantifier::All); }
+Ref<Longs> Complex::AnyObj(const Variant& dim) const { return AskedAlong(*this, dim, Quantifier::Any); }
+bool       Complex::AllAll()                   const { return Asked(*this, Quantifier::All); }
+bool       Complex::AnyAny()                   const { return Asked(*this, Quantifier::Any); }
 // clang-format on
 
 } // namespace lumora

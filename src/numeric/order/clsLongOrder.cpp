@@ -1,5 +1,6 @@
 #include "numeric/clsLong.h"
 
+#include "numeric/TableNames.h"
 #include "numeric/clsComplexMatrix.h"
 #include "numeric/order/Extremes.h"
 #include "numeric/order/Pairwise.h"
@@ -10,25 +11,25 @@
 namespace lumora {
 
 // clang-format off
-std::int32_t          clsLong::Min          ()                         const { return FirstExtreme(SheetOf(*this), Smaller()).value; }
-std::int32_t          clsLong::Max          ()                         const { return FirstExtreme(SheetOf(*this), Larger()).value; }
-Ref<clsMatrix>        clsLong::Minmax       ()                         const { return MinmaxRow<clsMatrix>(FirstExtreme(SheetOf(*this), Smaller()), FirstExtreme(SheetOf(*this), Larger())); }
-Ref<clsLong>          clsLong::MinDim       (const Variant& dimention) const { return ExtremesAlong(*this, dimention, Smaller()); }
-Ref<clsLong>          clsLong::MaxDim       (const Variant& dimention) const { return ExtremesAlong(*this, dimention, Larger()); }
-Ref<clsLong>          clsLong::MinIndex     (const Variant& dimention) const { return PlacesAlong(*this, dimention, Smaller()); }
-Ref<clsLong>          clsLong::MaxIndex     (const Variant& dimention) const { return PlacesAlong(*this, dimention, Larger()); }
+std::int32_t Longs::Min     ()                         const { return SmallestOf(*this); }
+std::int32_t Longs::Max     ()                         const { return LargestOf(*this); }
+Ref<Reals>   Longs::Minmax  ()                         const { return MinmaxOf<Reals>(*this); }
+Ref<Longs>   Longs::MinDim  (const Variant& dimention) const { return SmallestAlong(*this, dimention); }
+Ref<Longs>   Longs::MaxDim  (const Variant& dimention) const { return LargestAlong(*this, dimention); }
+Ref<Longs>   Longs::MinIndex(const Variant& dimention) const { return SmallestPlaces(*this, dimention); }
+Ref<Longs>   Longs::MaxIndex(const Variant& dimention) const { return LargestPlaces(*this, dimention); }
 
-Ref<clsLong>          clsLong::MinLL        (const clsLong& a)         const { return Pairwise<clsLong>(SheetOf(*this), SheetOf(a), Smaller()); }
-Ref<clsLong>          clsLong::MaxLL        (const clsLong& a)         const { return Pairwise<clsLong>(SheetOf(*this), SheetOf(a), Larger()); }
-Ref<clsLong>          clsLong::MinNum       (double x)                 const { return Pairwise<clsLong>(SheetOf(*this), Single{x}, Smaller()); }
-Ref<clsLong>          clsLong::MaxRNum      (double x)                 const { return Pairwise<clsLong>(SheetOf(*this), Single{x}, Larger()); }
-Ref<clsComplexMatrix> clsLong::MinComplexNum(const clsComplex& z)      const { return Pairwise<clsComplexMatrix>(SheetOf(*this), SheetOf(z), SmallerComplex()); }
-Ref<clsComplexMatrix> clsLong::MaxComplexNum(const clsComplex& z)      const { return Pairwise<clsComplexMatrix>(SheetOf(*this), SheetOf(z), LargerComplex()); }
+Ref<Longs>   Longs::MinLL        (const Longs& a)  const { return SmallerOf<Longs>(*this, a); }
+Ref<Longs>   Longs::MaxLL        (const Longs& a)  const { return LargerOf<Longs>(*this, a); }
+Ref<Longs>   Longs::MinNum       (double x)        const { return SmallerOf<Longs>(*this, x); }
+Ref<Longs>   Longs::MaxRNum      (double x)        const { return LargerOf<Longs>(*this, x); }
+Ref<Complex> Longs::MinComplexNum(const Scalar& z) const { return SmallerOf<Complex>(*this, z, 0.0); }
+Ref<Complex> Longs::MaxComplexNum(const Scalar& z) const { return LargerOf<Complex>(*this, z, 0.0); }
 
-Ref<clsLong>          clsLong::All          (const Variant& dimention) const { return AskedAlong(*this, dimention, Quantifier::All); }
-Ref<clsLong>          clsLong::AnyObj       (const Variant& dimention) const { return AskedAlong(*this, dimention, Quantifier::Any); }
-bool                  clsLong::AllAll       ()                         const { return Asked(*this, Quantifier::All); }
-bool                  clsLong::AnyAny       ()                         const { return Asked(*this, Quantifier::Any); }
+Ref<Longs> Longs::All   (const Variant& dimention) const { return AskedAlong(*this, dimention, Quantifier::All); }
+Ref<Longs> Longs::AnyObj(const Variant& dimention) const { return AskedAlong(*this, dimention, Quantifier::Any); }
+bool       Longs::AllAll()                         const { return Asked(*this, Quantifier::All); }
+bool       Longs::AnyAny()                         const { return Asked(*this, Quantifier::Any); }
 // clang-format on
 
 } // namespace lumora

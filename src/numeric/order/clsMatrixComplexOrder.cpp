@@ -1,5 +1,6 @@
 #include "numeric/clsMatrixComplex.h"
 
+#include "numeric/TableNames.h"
 #include "numeric/order/Extremes.h"
 #include "numeric/order/Pairwise.h"
 #include "numeric/order/Quantifiers.h"
@@ -9,29 +10,29 @@
 namespace lumora {
 
 // clang-format off
-Ref<clsComplex>       clsMatrixComplex::Min       (double Tolerance)                            const { return AsObject(FirstExtreme(SheetOf(*this), SmallerComplex{Tolerance}).value); }
-Ref<clsComplex>       clsMatrixComplex::Max       (double Tolerance)                            const { return AsObject(FirstExtreme(SheetOf(*this), LargerComplex{Tolerance}).value); }
-Ref<clsMatrixComplex> clsMatrixComplex::Minmax    (double Tolerance)                            const { return MinmaxRow<clsMatrixComplex>(FirstExtreme(SheetOf(*this), SmallerComplex{Tolerance}), FirstExtreme(SheetOf(*this), LargerComplex{Tolerance})); }
-Variant               clsMatrixComplex::MinDim    (const Variant& dimention, double Tolerance)  const { return ComplexExtremesAlong(*this, dimention, SmallerComplex{Tolerance}); }
-Variant               clsMatrixComplex::MaxDim    (const Variant& dimention, double Tolerance)  const { return ComplexExtremesAlong(*this, dimention, LargerComplex{Tolerance}); }
-Ref<clsLong>          clsMatrixComplex::MinIndex  (const Variant& dimention, double Tolerance)  const { return PlacesAlong(*this, dimention, SmallerComplex{Tolerance}); }
-Ref<clsLong>          clsMatrixComplex::MaxIndex  (const Variant& dimention, double Tolerance)  const { return PlacesAlong(*this, dimention, LargerComplex{Tolerance}); }
+Ref<Scalar>  Objects::Min     (double tol)                     const { return AsObject(SmallestOf(*this, tol)); }
+Ref<Scalar>  Objects::Max     (double tol)                     const { return AsObject(LargestOf(*this, tol)); }
+Ref<Objects> Objects::Minmax  (double tol)                     const { return MinmaxOf<Objects>(*this, tol); }
+Variant      Objects::MinDim  (const Variant& dim, double tol) const { return SmallestAlong(*this, dim, tol); }
+Variant      Objects::MaxDim  (const Variant& dim, double tol) const { return LargestAlong(*this, dim, tol); }
+Ref<Longs>   Objects::MinIndex(const Variant& dim, double tol) const { return SmallestPlaces(*this, dim, tol); }
+Ref<Longs>   Objects::MaxIndex(const Variant& dim, double tol) const { return LargestPlaces(*this, dim, tol); }
 
-Ref<clsMatrixComplex> clsMatrixComplex::MinMCMC   (const clsMatrixComplex& a, double Tolerance) const { return Pairwise<clsMatrixComplex>(SheetOf(*this), SheetOf(a), SmallerComplex{Tolerance}); }
-Ref<clsMatrixComplex> clsMatrixComplex::MaxMCMC   (const clsMatrixComplex& a, double Tolerance) const { return Pairwise<clsMatrixComplex>(SheetOf(*this), SheetOf(a), LargerComplex{Tolerance}); }
-Ref<clsMatrixComplex> clsMatrixComplex::MinMCD    (const clsMatrix& a, double Tolerance)        const { return Pairwise<clsMatrixComplex>(SheetOf(*this), SheetOf(a), SmallerComplex{Tolerance}); }
-Ref<clsMatrixComplex> clsMatrixComplex::MaxMCD    (const clsMatrix& a, double Tolerance)        const { return Pairwise<clsMatrixComplex>(SheetOf(*this), SheetOf(a), LargerComplex{Tolerance}); }
-Ref<clsMatrixComplex> clsMatrixComplex::MinMCL    (const clsLong& a, double Tolerance)          const { return Pairwise<clsMatrixComplex>(SheetOf(*this), SheetOf(a), SmallerComplex{Tolerance}); }
-Ref<clsMatrixComplex> clsMatrixComplex::MaxMCL    (const clsLong& a, double Tolerance)          const { return Pairwise<clsMatrixComplex>(SheetOf(*this), SheetOf(a), LargerComplex{Tolerance}); }
-Ref<clsMatrixComplex> clsMatrixComplex::MinComplex(const clsComplex& z, double Tolerance)       const { return Pairwise<clsMatrixComplex>(SheetOf(*this), SheetOf(z), SmallerComplex{Tolerance}); }
-Ref<clsMatrixComplex> clsMatrixComplex::MaxComplex(const clsComplex& z, double Tolerance)       const { return Pairwise<clsMatrixComplex>(SheetOf(*this), SheetOf(z), LargerComplex{Tolerance}); }
-Ref<clsMatrixComplex> clsMatrixComplex::MinNum    (double x, double Tolerance)                  const { return Pairwise<clsMatrixComplex>(SheetOf(*this), Single{x}, SmallerComplex{Tolerance}); }
-Ref<clsMatrixComplex> clsMatrixComplex::MaxNum    (double x, double Tolerance)                  const { return Pairwise<clsMatrixComplex>(SheetOf(*this), Single{x}, LargerComplex{Tolerance}); }
+Ref<Objects> Objects::MinMCMC   (const Objects& a, double tol) const { return SmallerOf<Objects>(*this, a, tol); }
+Ref<Objects> Objects::MaxMCMC   (const Objects& a, double tol) const { return LargerOf<Objects>(*this, a, tol); }
+Ref<Objects> Objects::MinMCD    (const Reals& a, double tol)   const { return SmallerOf<Objects>(*this, a, tol); }
+Ref<Objects> Objects::MaxMCD    (const Reals& a, double tol)   const { return LargerOf<Objects>(*this, a, tol); }
+Ref<Objects> Objects::MinMCL    (const Longs& a, double tol)   const { return SmallerOf<Objects>(*this, a, tol); }
+Ref<Objects> Objects::MaxMCL    (const Longs& a, double tol)   const { return LargerOf<Objects>(*this, a, tol); }
+Ref<Objects> Objects::MinComplex(const Scalar& z, double tol)  const { return SmallerOf<Objects>(*this, z, tol); }
+Ref<Objects> Objects::MaxComplex(const Scalar& z, double tol)  const { return LargerOf<Objects>(*this, z, tol); }
+Ref<Objects> Objects::MinNum    (double x, double tol)         const { return SmallerOf<Objects>(*this, x, tol); }
+Ref<Objects> Objects::MaxNum    (double x, double tol)         const { return LargerOf<Objects>(*this, x, tol); }
 
-Ref<clsLong>          clsMatrixComplex::All       (const Variant& dimention)                    const { return AskedAlong(*this, dimention, Quantifier::All); }
-Ref<clsLong>          clsMatrixComplex::AnyObj    (const Variant& dimention)                    const { return AskedAlong(*this, dimention, Quantifier::Any); }
-bool                  clsMatrixComplex::AllAll    ()                                            const { return Asked(*this, Quantifier::All); }
-bool                  clsMatrixComplex::AnyAny    ()                                            const { return Asked(*this, Quantifier::Any); }
+Ref<Longs> Objects::All   (const Variant& dim) const { return AskedAlong(*this, dim, Quantifier::All); }
+Ref<Longs> Objects::AnyObj(const Variant& dim) const { return AskedAlong(*this, dim, Quantifier::Any); }
+bool       Objects::AllAll()                   const { return Asked(*this, Quantifier::All); }
+bool       Objects::AnyAny()                   const { return Asked(*this, Quantifier::Any); }
 // clang-format on
 
 } // namespace lumora

@@ -1,5 +1,6 @@
 #include "numeric/clsMatrix.h"
 
+#include "numeric/TableNames.h"
 #include "numeric/clsComplexMatrix.h"
 #include "numeric/order/Extremes.h"
 #include "numeric/order/PairScan.h"
@@ -29,7 +30,7 @@ Ref<clsMatrix> clsMatrix::Minmax() const
         return MinmaxRow<clsMatrix>(FoundAt(sheet, places.smallest),
                                     FoundAt(sheet, places.largest));
     }
-    return MinmaxRow<clsMatrix>(FirstExtreme(sheet, Smaller()), FirstExtreme(sheet, Larger()));
+    return MinmaxOf<clsMatrix>(*this);
 }
 
 Ref<clsMatrix> clsMatrix::MinmaxIndex() const
@@ -38,26 +39,26 @@ Ref<clsMatrix> clsMatrix::MinmaxIndex() const
 }
 
 // clang-format off
-double                clsMatrix::Min          ()                         const { return FirstExtreme(SheetOf(*this), Smaller()).value; }
-double                clsMatrix::Max          ()                         const { return FirstExtreme(SheetOf(*this), Larger()).value; }
-Ref<clsMatrix>        clsMatrix::MinDim       (const Variant& dimention) const { return ExtremesAlong(*this, dimention, Smaller()); }
-Ref<clsMatrix>        clsMatrix::MaxDim       (const Variant& dimention) const { return ExtremesAlong(*this, dimention, Larger()); }
-Ref<clsLong>          clsMatrix::MinIndex     (const Variant& dimention) const { return PlacesAlong(*this, dimention, Smaller()); }
-Ref<clsLong>          clsMatrix::MaxIndex     (const Variant& dimention) const { return PlacesAlong(*this, dimention, Larger()); }
+double     Reals::Min     ()                         const { return SmallestOf(*this); }
+double     Reals::Max     ()                         const { return LargestOf(*this); }
+Ref<Reals> Reals::MinDim  (const Variant& dimention) const { return SmallestAlong(*this, dimention); }
+Ref<Reals> Reals::MaxDim  (const Variant& dimention) const { return LargestAlong(*this, dimention); }
+Ref<Longs> Reals::MinIndex(const Variant& dimention) const { return SmallestPlaces(*this, dimention); }
+Ref<Longs> Reals::MaxIndex(const Variant& dimention) const { return LargestPlaces(*this, dimention); }
 
-Ref<clsMatrix>        clsMatrix::MinRR        (const clsMatrix& a)       const { return Pairwise<clsMatrix>(SheetOf(*this), SheetOf(a), Smaller()); }
-Ref<clsMatrix>        clsMatrix::MaxRR        (const clsMatrix& a)       const { return Pairwise<clsMatrix>(SheetOf(*this), SheetOf(a), Larger()); }
-Ref<clsMatrix>        clsMatrix::MinRL        (const clsLong& a)         const { return Pairwise<clsMatrix>(SheetOf(*this), SheetOf(a), Smaller()); }
-Ref<clsMatrix>        clsMatrix::MaxRL        (const clsLong& a)         const { return Pairwise<clsMatrix>(SheetOf(*this), SheetOf(a), Larger()); }
-Ref<clsMatrix>        clsMatrix::MinNum       (double x)                 const { return Pairwise<clsMatrix>(SheetOf(*this), Single{x}, Smaller()); }
-Ref<clsMatrix>        clsMatrix::MaxRNum      (double x)                 const { return Pairwise<clsMatrix>(SheetOf(*this), Single{x}, Larger()); }
-Ref<clsComplexMatrix> clsMatrix::MinComplexNum(const clsComplex& z)      const { return Pairwise<clsComplexMatrix>(SheetOf(*this), SheetOf(z), SmallerComplex()); }
-Ref<clsComplexMatrix> clsMatrix::MaxComplexNum(const clsComplex& z)      const { return Pairwise<clsComplexMatrix>(SheetOf(*this), SheetOf(z), LargerComplex()); }
+Ref<Reals>   Reals::MinRR        (const Reals& a)  const { return SmallerOf<Reals>(*this, a); }
+Ref<Reals>   Reals::MaxRR        (const Reals& a)  const { return LargerOf<Reals>(*this, a); }
+Ref<Reals>   Reals::MinRL        (const Longs& a)  const { return SmallerOf<Reals>(*this, a); }
+Ref<Reals>   Reals::MaxRL        (const Longs& a)  const { return LargerOf<Reals>(*this, a); }
+Ref<Reals>   Reals::MinNum       (double x)        const { return SmallerOf<Reals>(*this, x); }
+Ref<Reals>   Reals::MaxRNum      (double x)        const { return LargerOf<Reals>(*this, x); }
+Ref<Complex> Reals::MinComplexNum(const Scalar& z) const { return SmallerOf<Complex>(*this, z, 0.0); }
+Ref<Complex> Reals::MaxComplexNum(const Scalar& z) const { return LargerOf<Complex>(*this, z, 0.0); }
 
-Ref<clsLong>          clsMatrix::All          (const Variant& dimention) const { return AskedAlong(*this, dimention, Quantifier::All); }
-Ref<clsLong>          clsMatrix::AnyObj       (const Variant& dimention) const { return AskedAlong(*this, dimention, Quantifier::Any); }
-bool                  clsMatrix::AllAll       ()                         const { return Asked(*this, Quantifier::All); }
-bool                  clsMatrix::AnyAny       ()                         const { return Asked(*this, Quantifier::Any); }
+Ref<Longs> Reals::All   (const Variant& dimention) const { return AskedAlong(*this, dimention, Quantifier::All); }
+Ref<Longs> Reals::AnyObj(const Variant& dimention) const { return AskedAlong(*this, dimention, Quantifier::Any); }
+bool       Reals::AllAll()                         const { return Asked(*this, Quantifier::All); }
+bool       Reals::AnyAny()                         const { return Asked(*this, Quantifier::Any); }
 // clang-format on
 
 } // namespace lumora

@@ -1,5 +1,6 @@
 #include "numeric/clsString.h"
 
+#include "numeric/TableNames.h"
 #include "numeric/clsVariant.h"
 #include "numeric/order/Extremes.h"
 #include "numeric/order/Pairwise.h"
@@ -10,23 +11,23 @@
 namespace lumora {
 
 // clang-format off
-std::string     clsString::Min      ()                         const { return FirstExtreme(SheetOf(*this), Smaller()).value; }
-std::string     clsString::Max      ()                         const { return FirstExtreme(SheetOf(*this), Larger()).value; }
-Ref<clsVariant> clsString::Minmax   ()                         const { return MinmaxRow<clsVariant>(FirstExtreme(SheetOf(*this), Smaller()), FirstExtreme(SheetOf(*this), Larger())); }
-Ref<clsString>  clsString::MinDim   (const Variant& dimention) const { return ExtremesAlong(*this, dimention, Smaller()); }
-Ref<clsString>  clsString::MaxDim   (const Variant& dimention) const { return ExtremesAlong(*this, dimention, Larger()); }
-Ref<clsLong>    clsString::MinIndex (const Variant& dimention) const { return PlacesAlong(*this, dimention, Smaller()); }
-Ref<clsLong>    clsString::MaxIndex (const Variant& dimention) const { return PlacesAlong(*this, dimention, Larger()); }
+std::string     Texts::Min     ()                         const { return SmallestOf(*this); }
+std::string     Texts::Max     ()                         const { return LargestOf(*this); }
+Ref<clsVariant> Texts::Minmax  ()                         const { return MinmaxOf<clsVariant>(*this); }
+Ref<Texts>      Texts::MinDim  (const Variant& dimention) const { return SmallestAlong(*this, dimention); }
+Ref<Texts>      Texts::MaxDim  (const Variant& dimention) const { return LargestAlong(*this, dimention); }
+Ref<Longs>      Texts::MinIndex(const Variant& dimention) const { return SmallestPlaces(*this, dimention); }
+Ref<Longs>      Texts::MaxIndex(const Variant& dimention) const { return LargestPlaces(*this, dimention); }
 
-Ref<clsString>  clsString::MinSS    (const clsString& a)       const { return Pairwise<clsString>(SheetOf(*this), SheetOf(a), Smaller()); }
-Ref<clsString>  clsString::MaxSS    (const clsString& a)       const { return Pairwise<clsString>(SheetOf(*this), SheetOf(a), Larger()); }
-Ref<clsString>  clsString::MinString(const std::string& x)     const { return Pairwise<clsString>(SheetOf(*this), Single{x}, Smaller()); }
-Ref<clsString>  clsString::MaxString(const std::string& x)     const { return Pairwise<clsString>(SheetOf(*this), Single{x}, Larger()); }
+Ref<Texts> Texts::MinSS    (const Texts& a)       const { return SmallerOf<Texts>(*this, a); }
+Ref<Texts> Texts::MaxSS    (const Texts& a)       const { return LargerOf<Texts>(*this, a); }
+Ref<Texts> Texts::MinString(const std::string& x) const { return SmallerOf<Texts>(*this, x); }
+Ref<Texts> Texts::MaxString(const std::string& x) const { return LargerOf<Texts>(*this, x); }
 
-Ref<clsLong>    clsString::All      (const Variant& dimention) const { return AskedAlong(*this, dimention, Quantifier::All); }
-Ref<clsLong>    clsString::AnyObj   (const Variant& dimention) const { return AskedAlong(*this, dimention, Quantifier::Any); }
-bool            clsString::AllAll   ()                         const { return Asked(*this, Quantifier::All); }
-bool            clsString::AnyAny   ()                         const { return Asked(*this, Quantifier::Any); }
+Ref<Longs> Texts::All   (const Variant& dimention) const { return AskedAlong(*this, dimention, Quantifier::All); }
+Ref<Longs> Texts::AnyObj(const Variant& dimention) const { return AskedAlong(*this, dimention, Quantifier::Any); }
+bool       Texts::AllAll()                         const { return Asked(*this, Quantifier::All); }
+bool       Texts::AnyAny()                         const { return Asked(*this, Quantifier::Any); }
 // clang-format on
 
 } // namespace lumora
