@@ -38,12 +38,12 @@ void LongsFromSamples(std::span<const double> samples, std::span<std::int32_t> l
 
 // The same by the type of the numbers, for templates.
 // clang-format off
-inline void Convert(std::span<const std::uint8_t> numbers, std::span<double> samples) { SamplesFromBytes(numbers, samples); }
-inline void Convert(std::span<const std::int16_t> numbers, std::span<double> samples) { SamplesFromShorts(numbers, samples); }
-inline void Convert(std::span<const std::int32_t> numbers, std::span<double> samples) { SamplesFromLongs(numbers, samples); }
-inline void Convert(std::span<const double> samples, std::span<std::uint8_t> numbers) { BytesFromSamples(samples, numbers); }
-inline void Convert(std::span<const double> samples, std::span<std::int16_t> numbers) { ShortsFromSamples(samples, numbers); }
-inline void Convert(std::span<const double> samples, std::span<std::int32_t> numbers) { LongsFromSamples(samples, numbers); }
+inline void Convert(std::span<const std::uint8_t> in, std::span<double> out) { SamplesFromBytes(in, out); }
+inline void Convert(std::span<const std::int16_t> in, std::span<double> out) { SamplesFromShorts(in, out); }
+inline void Convert(std::span<const std::int32_t> in, std::span<double> out) { SamplesFromLongs(in, out); }
+inline void Convert(std::span<const double> in, std::span<std::uint8_t> out) { BytesFromSamples(in, out); }
+inline void Convert(std::span<const double> in, std::span<std::int16_t> out) { ShortsFromSamples(in, out); }
+inline void Convert(std::span<const double> in, std::span<std::int32_t> out) { LongsFromSamples(in, out); }
 // clang-format on
 
 /// The kernels behind them, for one width of vectors.

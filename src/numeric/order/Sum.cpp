@@ -48,7 +48,7 @@ Variant Named(const Ref<clsMatrix>& m, const std::string& name)
     return m;
 }
 
-Variant SumAlong(const Sheet<double>& sheet, Lines lines, const std::string& name)
+Variant Summed(const Sheet<double>& sheet, Lines lines, const std::string& name)
 {
     const auto sums = FoldLines<double>(
         lines, sheet, [](std::size_t) { return kNoSum; },
@@ -59,7 +59,7 @@ Variant SumAlong(const Sheet<double>& sheet, Lines lines, const std::string& nam
     return Named(OneOfEachLine<clsMatrix>(lines, sums, std::identity()), name);
 }
 
-Variant CumsumAlong(const Sheet<double>& sheet, Lines lines, const std::string& name)
+Variant RunningSums(const Sheet<double>& sheet, Lines lines, const std::string& name)
 {
     const LineLayout layout = LayoutOf(lines, {sheet.rows, sheet.columns});
     Draft<clsMatrix> result({sheet.rows, sheet.columns});
@@ -79,7 +79,7 @@ Variant CumsumAlong(const Sheet<double>& sheet, Lines lines, const std::string& 
     return Named(result.Take(), name);
 }
 
-Variant ReverseAlong(const Sheet<double>& sheet, Lines lines, const std::string& name)
+Variant Reversed(const Sheet<double>& sheet, Lines lines, const std::string& name)
 {
     Draft<clsMatrix> result({sheet.rows, sheet.columns});
     // Columns lie one after the other, and so do the elements of each.
@@ -111,9 +111,9 @@ Variant Along(const clsMatrix& m, const Variant& dimention, const std::string& n
 } // namespace
 
 // clang-format off
-Variant clsMatrix::Sum    (const Variant& dimention, const std::string& s) const { return Along(*this, dimention, s, SumAlong); }
-Variant clsMatrix::Reverse(const Variant& dimention, const std::string& s) const { return Along(*this, dimention, s, ReverseAlong); }
-Variant clsMatrix::Cumsum (const Variant& dimention, const std::string& s) const { return Along(*this, dimention, s, CumsumAlong); }
+Variant clsMatrix::Sum    (const Variant& dim, const std::string& s) const { return Along(*this, dim, s, Summed); }
+Variant clsMatrix::Reverse(const Variant& dim, const std::string& s) const { return Along(*this, dim, s, Reversed); }
+Variant clsMatrix::Cumsum (const Variant& dim, const std::string& s) const { return Along(*this, dim, s, RunningSums); }
 // clang-format on
 
 void clsMatrix::FillObject(std::int32_t length1)

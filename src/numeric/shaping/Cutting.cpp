@@ -165,17 +165,35 @@ using I16 = std::int16_t;
 } // namespace
 
 // clang-format off
-Ref<clsMatrix>        clsMatrix::OutMatrix       (I32 Top, I32 Left, I32 Buttom, I32 Right) const { return Cut(*this, {Top, Left, Buttom, Right}); }
-Ref<clsLong>          clsLong::OutMatrix         (I32 Top, I32 Left, I32 Buttom, I32 Right) const { return Cut(*this, {Top, Left, Buttom, Right}); }
-Ref<clsComplexMatrix> clsComplexMatrix::OutMatrix(I32 Top, I32 Left, I32 Buttom, I32 Right) const { return Cut(*this, {Top, Left, Buttom, Right}); }
-Ref<clsMatrixComplex> clsMatrixComplex::OutMatrix(I32 Top, I32 Left, I32 Buttom, I32 Right) const { return Cut(*this, {Top, Left, Buttom, Right}); }
-Ref<clsString>        clsString::OutMatrix       (I32 Top, I32 Left, I32 Buttom, I32 Right) const { return Cut(*this, {Top, Left, Buttom, Right}); }
-Ref<clsVariant>       clsVariant::OutMatrix      (I32 Top, I32 Left, I32 Buttom, I32 Right) const { return Cut(*this, {Top, Left, Buttom, Right}); }
-
-Ref<clsMatrix>        clsMatrix::OutMatrixByVector       (const Variant& Indices, I32 Left, I32 Right, I16 flag) const { return Picked(*this, Indices, Left, Right, flag); }
-Ref<clsLong>          clsLong::OutMatrixByVector         (const Variant& Indices, I32 Left, I32 Right, I16 flag) const { return Picked(*this, Indices, Left, Right, flag); }
-Ref<clsComplexMatrix> clsComplexMatrix::OutMatrixByVector(const Variant& Indices, I32 Left, I32 Right, I16 flag) const { return Picked(*this, Indices, Left, Right, flag); }
-Ref<clsMatrixComplex> clsMatrixComplex::OutMatrixByVector(const Variant& Indices, I32 Left, I32 Right, I16 flag) const { return Picked(*this, Indices, Left, Right, flag); }
+Ref<clsMatrix>        clsMatrix::OutMatrix       (I32 t, I32 l, I32 b, I32 r) const { return Cut(*this, {t, l, b, r}); }
+Ref<clsLong>          clsLong::OutMatrix         (I32 t, I32 l, I32 b, I32 r) const { return Cut(*this, {t, l, b, r}); }
+Ref<clsComplexMatrix> clsComplexMatrix::OutMatrix(I32 t, I32 l, I32 b, I32 r) const { return Cut(*this, {t, l, b, r}); }
+Ref<clsMatrixComplex> clsMatrixComplex::OutMatrix(I32 t, I32 l, I32 b, I32 r) const { return Cut(*this, {t, l, b, r}); }
+Ref<clsString>        clsString::OutMatrix       (I32 t, I32 l, I32 b, I32 r) const { return Cut(*this, {t, l, b, r}); }
+Ref<clsVariant>       clsVariant::OutMatrix      (I32 t, I32 l, I32 b, I32 r) const { return Cut(*this, {t, l, b, r}); }
 // clang-format on
+
+Ref<clsMatrix> clsMatrix::OutMatrixByVector(const Variant& Indices, I32 Left, I32 Right,
+                                            I16 flag) const
+{
+    return Picked(*this, Indices, Left, Right, flag);
+}
+
+Ref<clsLong> clsLong::OutMatrixByVector(const Variant& Indices, I32 Left, I32 Right, I16 flag) const
+{
+    return Picked(*this, Indices, Left, Right, flag);
+}
+
+Ref<clsComplexMatrix> clsComplexMatrix::OutMatrixByVector(const Variant& Indices, I32 Left,
+                                                          I32 Right, I16 flag) const
+{
+    return Picked(*this, Indices, Left, Right, flag);
+}
+
+Ref<clsMatrixComplex> clsMatrixComplex::OutMatrixByVector(const Variant& Indices, I32 Left,
+                                                          I32 Right, I16 flag) const
+{
+    return Picked(*this, Indices, Left, Right, flag);
+}
 
 } // namespace lumora

@@ -42,14 +42,17 @@ Variant Rearranged(const M& m, std::int32_t X, std::int32_t Y, std::int16_t& s, 
     return Shaped(m, [&](const auto& from) { return Exchanged(from, lines, X, Y, moved); });
 }
 
+using I32 = std::int32_t;
+using I16 = std::int16_t;
+
 } // namespace
 
 // clang-format off
-Variant clsMatrix::Rearrange       (std::int32_t X, std::int32_t Y, std::int16_t& s) const { return Rearranged(*this, X, Y, s, Turned(X, Y)); }
-Variant clsLong::Rearrange         (std::int32_t X, std::int32_t Y, std::int16_t& s) const { return Rearranged(*this, X, Y, s, Turned(X, Y)); }
-Variant clsComplexMatrix::Rearrange(std::int32_t X, std::int32_t Y, std::int16_t& s) const { return Rearranged(*this, X, Y, s); }
-Variant clsString::Rearrange       (std::int32_t X, std::int32_t Y, std::int16_t& s) const { return Rearranged(*this, X, Y, s); }
-Variant clsVariant::Rearrange      (std::int32_t X, std::int32_t Y, std::int16_t& s) const { return Rearranged(*this, X, Y, s); }
+Variant clsMatrix::Rearrange       (I32 X, I32 Y, I16& s) const { return Rearranged(*this, X, Y, s, Turned(X, Y)); }
+Variant clsLong::Rearrange         (I32 X, I32 Y, I16& s) const { return Rearranged(*this, X, Y, s, Turned(X, Y)); }
+Variant clsComplexMatrix::Rearrange(I32 X, I32 Y, I16& s) const { return Rearranged(*this, X, Y, s); }
+Variant clsString::Rearrange       (I32 X, I32 Y, I16& s) const { return Rearranged(*this, X, Y, s); }
+Variant clsVariant::Rearrange      (I32 X, I32 Y, I16& s) const { return Rearranged(*this, X, Y, s); }
 // clang-format on
 
 } // namespace lumora

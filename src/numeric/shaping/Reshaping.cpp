@@ -70,6 +70,7 @@ template <class T> struct Joint {
     Array<T>& store;
     const Array<T>& other;
 };
+template <class T> Joint(Array<T>&, const Array<T>&) -> Joint<T>;
 
 template <class M, class... T> void Join(M& m, const M& other, Joint<T>... joints)
 {
@@ -89,24 +90,28 @@ using I32 = std::int32_t;
 } // namespace
 
 // clang-format off
-Ref<clsMatrix>        clsMatrix::NewSizeOfMatrix       (I32 new_size1, I32 new_size2) { return Resized(*this, {new_size1, new_size2}); }
-Ref<clsLong>          clsLong::NewSizeOfMatrix         (I32 new_size1, I32 new_size2) { return Resized(*this, {new_size1, new_size2}); }
-Ref<clsComplexMatrix> clsComplexMatrix::NewSizeOfMatrix(I32 new_size1, I32 new_size2) { return Resized(*this, {new_size1, new_size2}); }
-Ref<clsMatrixComplex> clsMatrixComplex::NewSizeOfMatrix(I32 new_size1, I32 new_size2) { return Resized(*this, {new_size1, new_size2}); }
-Ref<clsString>        clsString::NewSizeOfMatrix       (I32 new_size1, I32 new_size2) { return Resized(*this, {new_size1, new_size2}); }
-Ref<clsVariant>       clsVariant::NewSizeOfMatrix      (I32 new_size1, I32 new_size2) { return Resized(*this, {new_size1, new_size2}); }
+Ref<clsMatrix>        clsMatrix::NewSizeOfMatrix       (I32 rows, I32 cols) { return Resized(*this, {rows, cols}); }
+Ref<clsLong>          clsLong::NewSizeOfMatrix         (I32 rows, I32 cols) { return Resized(*this, {rows, cols}); }
+Ref<clsComplexMatrix> clsComplexMatrix::NewSizeOfMatrix(I32 rows, I32 cols) { return Resized(*this, {rows, cols}); }
+Ref<clsMatrixComplex> clsMatrixComplex::NewSizeOfMatrix(I32 rows, I32 cols) { return Resized(*this, {rows, cols}); }
+Ref<clsString>        clsString::NewSizeOfMatrix       (I32 rows, I32 cols) { return Resized(*this, {rows, cols}); }
+Ref<clsVariant>       clsVariant::NewSizeOfMatrix      (I32 rows, I32 cols) { return Resized(*this, {rows, cols}); }
 
-void clsMatrix::RedimPreserve       (I32 new_size2) { Redim(*this, new_size2, elements_); }
-void clsLong::RedimPreserve         (I32 new_size2) { Redim(*this, new_size2, elements_); }
-void clsComplexMatrix::RedimPreserve(I32 new_size2) { Redim(*this, new_size2, real_part_, image_part_); }
-void clsString::RedimPreserve       (I32 new_size2) { Redim(*this, new_size2, elements_); }
-void clsVariant::RedimPreserve      (I32 new_size2) { Redim(*this, new_size2, elements_); }
+void clsMatrix::RedimPreserve       (I32 cols) { Redim(*this, cols, elements_); }
+void clsLong::RedimPreserve         (I32 cols) { Redim(*this, cols, elements_); }
+void clsComplexMatrix::RedimPreserve(I32 cols) { Redim(*this, cols, real_part_, image_part_); }
+void clsString::RedimPreserve       (I32 cols) { Redim(*this, cols, elements_); }
+void clsVariant::RedimPreserve      (I32 cols) { Redim(*this, cols, elements_); }
 
-void clsMatrix::CatRefresh        (const clsMatrix& other)        { Join(*this, other, Joint<double>{elements_, other.elements_}); }
-void clsLong::CatRefresh          (const clsLong& other)          { Join(*this, other, Joint<I32>{elements_, other.elements_}); }
-void clsComplexMatrix::CatRefresh (const clsComplexMatrix& other) { Join(*this, other, Joint<double>{real_part_, other.real_part_}, Joint<double>{image_part_, other.image_part_}); }
-void clsString::CatRefresh        (const clsString& other)        { Join(*this, other, Joint<std::string>{elements_, other.elements_}); }
-void clsVariant::CatRefreshVariant(const clsVariant& other)       { Join(*this, other, Joint<Variant>{elements_, other.GetRealAll()}); }
+void clsMatrix::CatRefresh        (const clsMatrix& more)  { Join(*this, more, Joint{elements_, more.elements_}); }
+void clsLong::CatRefresh          (const clsLong& more)    { Join(*this, more, Joint{elements_, more.elements_}); }
+void clsString::CatRefresh        (const clsString& more)  { Join(*this, more, Joint{elements_, more.elements_}); }
+void clsVariant::CatRefreshVariant(const clsVariant& more) { Join(*this, more, Joint{elements_, more.GetRealAll()}); }
 // clang-format on
+
+void clsComplexMatrix::CatRefresh(const clsComplexMatrix& other)
+{
+    Join(*this, other, Joint{real_part_, other.real_part_}, Joint{image_part_, other.image_part_});
+}
 
 } // namespace lumora

@@ -32,6 +32,12 @@ template <class Shape> Ref<clsComplexMatrix> Conjugate(const clsComplexMatrix& m
         shape(Sheet<double>{parts.rows, parts.columns, parts.im}, std::negate<double>()));
 }
 
+/// Element objects carry their sign themselves.
+template <class Shape> Ref<clsMatrixComplex> Conjugate(const clsMatrixComplex& m, Shape shape)
+{
+    return NewMatrix<clsMatrixComplex>(shape(SheetOf(m), Mirror));
+}
+
 constexpr auto kTransposedBy = [](const auto& from, auto sign) { return Transposed(from, sign); };
 constexpr auto kSameBy = [](const auto& from, auto sign) { return Same(from, sign); };
 
@@ -48,14 +54,14 @@ Ref<clsVariant>       clsVariant::Transpose       () const { return Shaped(*this
 Ref<clsMatrix>        clsMatrix::CTranspose       () const { return Transpose(); }
 Ref<clsLong>          clsLong::CTranspose         () const { return Transpose(); }
 Ref<clsComplexMatrix> clsComplexMatrix::CTranspose() const { return Conjugate(*this, kTransposedBy); }
-Ref<clsMatrixComplex> clsMatrixComplex::CTranspose() const { return NewMatrix<clsMatrixComplex>(Transposed(SheetOf(*this), Mirror)); }
+Ref<clsMatrixComplex> clsMatrixComplex::CTranspose() const { return Conjugate(*this, kTransposedBy); }
 Ref<clsString>        clsString::CTranspose       () const { return Transpose(); }
 Ref<clsVariant>       clsVariant::CTranspose      () const { return Transpose(); }
 
 Ref<clsMatrix>        clsMatrix::Conj             () const { return CopyObject(); }
 Ref<clsLong>          clsLong::Conj               () const { return CopyObject(); }
 Ref<clsComplexMatrix> clsComplexMatrix::Conj      () const { return Conjugate(*this, kSameBy); }
-Ref<clsMatrixComplex> clsMatrixComplex::Conj      () const { return NewMatrix<clsMatrixComplex>(Same(SheetOf(*this), Mirror)); }
+Ref<clsMatrixComplex> clsMatrixComplex::Conj      () const { return Conjugate(*this, kSameBy); }
 // clang-format on
 
 } // namespace lumora

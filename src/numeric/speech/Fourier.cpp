@@ -219,12 +219,12 @@ void Fourier(std::span<const double> x_re, std::span<const double> x_im, std::sp
 }
 
 // clang-format off
-Variant clsMatrix::fftm         (std::int32_t n_fft) const { return Transformed(RealOf(*this), n_fft, Scale::None); }
-Variant clsMatrix::ifftm        (std::int32_t n_fft) const { return Transformed(RealOf(*this), n_fft, Scale::ByLength); }
-Variant clsComplexMatrix::fftm  (std::int32_t n_fft) const { return Transformed(SheetOf(*this), n_fft, Scale::None); }
-Variant clsComplexMatrix::ifftm (std::int32_t n_fft) const { return Transformed(RealOf(*this), n_fft, Scale::ByLength); }
-Variant clsMatrixComplex::fftm  (std::int32_t) const       { return {}; }
-Variant clsMatrixComplex::ifftm (std::int32_t) const       { return {}; }
+Variant clsMatrix::fftm         (std::int32_t n) const { return Transformed(RealOf(*this), n, Scale::None); }
+Variant clsMatrix::ifftm        (std::int32_t n) const { return Transformed(RealOf(*this), n, Scale::ByLength); }
+Variant clsComplexMatrix::fftm  (std::int32_t n) const { return Transformed(SheetOf(*this), n, Scale::None); }
+Variant clsComplexMatrix::ifftm (std::int32_t n) const { return Transformed(RealOf(*this), n, Scale::ByLength); }
+Variant clsMatrixComplex::fftm  (std::int32_t) const   { return {}; }
+Variant clsMatrixComplex::ifftm (std::int32_t) const   { return {}; }
 // clang-format on
 
 } // namespace lumora
