@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/FileMessages.h"
+
 #include <cstdint>
 
 /// The texts and titles of the WAVE routines, spelled as users know them. Texts that differ in a
@@ -13,7 +15,7 @@ inline constexpr char kFindRefftype[] = "Error using find_refftype";
 inline constexpr char kReadFactck[] = "Error using read_factck";
 inline constexpr char kReadWaveformat[] = "Error using read_waveformat";
 inline constexpr char kWavread[] = "Error using wavread";
-inline constexpr char kFopen[] = "Error using fopen.";
+using file_messages::kFopen;
 
 inline constexpr char kNoWavFile[] =
     " Cannot open specifid WAV file for input, because file not exist.";

@@ -1,4 +1,5 @@
 #include "base/ByteStream.h"
+#include "base/FileMessages.h"
 #include "base/Messages.h"
 #include "base/Numbers.h"
 
@@ -10,8 +11,6 @@ namespace lumora {
 
 namespace {
 
-constexpr char kBeyondEnd[] = "Empty matrix: out of file size";
-
 /// What a type name stands for: Raw as it lies in the file, One and Many as they are handed out.
 template <class Raw, class One, class Many>
 FreadResult ReadAs(FileNumber file, std::int64_t count, const char* code, const char* code_of_many,
@@ -19,7 +18,7 @@ FreadResult ReadAs(FileNumber file, std::int64_t count, const char* code, const 
 {
     const std::int64_t left = FileLength(file) - FilePosition(file) + 1;
     if (left < 0) {
-        ShowFileError("Error using fread", kBeyondEnd);
+        ShowFileError(file_messages::kFread, file_messages::kBeyondEnd);
         return {-1, {}, code};
     }
     const std::int64_t whole = std::min<std::int64_t>(left / std::int64_t{sizeof(Raw)}, count);

@@ -1,5 +1,6 @@
 #include "base/ByteStream.h"
 
+#include "base/FileMessages.h"
 #include "base/FileTable.h"
 #include "base/Messages.h"
 #include "base/Paths.h"
@@ -11,12 +12,9 @@
 
 namespace lumora {
 
-namespace {
+using namespace file_messages;
 
-constexpr char kNoInputFile[] = " Cannot open specifid file for input because file not exist.";
-constexpr char kNoFileToAddTo[] = " Cannot open specifid file for Add because file not exist.";
-constexpr char kBadMode[] = "mode must be 'rb', or 'wr' or  'wb' , or 'wb+'";
-constexpr char kBadOrigin[] = "The third operand must be SEEK_SET or SEEK_CUR or SEEK_END ";
+namespace {
 
 bool WriteProtected(int error_code)
 {
@@ -73,12 +71,12 @@ FileNumber OpenByMode(const std::string& name, std::string_view mode, OldContent
 
 FileNumber fopen(const std::string& FileName, std::string_view Mode)
 {
-    return OpenByMode(FileName, Mode, OldContents::Delete, "Error using fopen.");
+    return OpenByMode(FileName, Mode, OldContents::Delete, kFopen);
 }
 
 FileNumber fopen_Rudo(const std::string& FileName, std::string_view Mode)
 {
-    return OpenByMode(FileName, Mode, OldContents::Keep, "Error using fopen_Rudo.");
+    return OpenByMode(FileName, Mode, OldContents::Keep, kFopenRudo);
 }
 
 FileNumber OpenForReading(const std::string& FileName)
@@ -96,7 +94,7 @@ FseekResult fseek(FileNumber File, std::int64_t Offset, std::string_view Origin)
     } else if (origin == "seek_end") {
         base = FileLength(File) + 1;
     } else if (origin != "seek_set") {
-        ShowFileError("Error using fseek", kBadOrigin);
+        ShowFileError(kFseek, kBadOrigin);
         SeekTo(File, 0);
     }
     std::int64_t position = 0;

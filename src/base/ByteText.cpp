@@ -1,4 +1,5 @@
 #include "base/ByteStream.h"
+#include "base/FileMessages.h"
 #include "base/Messages.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
@@ -8,8 +9,6 @@
 namespace lumora {
 
 namespace {
-
-constexpr char kOutOfRange[] = "Out of range";
 
 std::vector<double> CharacterCodes(const Variant& value)
 {
@@ -32,7 +31,7 @@ std::string Deblanked(const Variant& value, std::string_view type_code, const ch
     for (const double code : CharacterCodes(value)) {
         const double whole = type_code == "r" ? Int(code) : Round(code);
         if (!(whole >= 0.0 && whole <= 255.0)) {
-            ShowFileError(title, kOutOfRange);
+            ShowFileError(title, file_messages::kOutOfRange);
             return {};
         }
         text.push_back(static_cast<char>(static_cast<unsigned char>(whole)));
@@ -44,12 +43,12 @@ std::string Deblanked(const Variant& value, std::string_view type_code, const ch
 
 std::string deblank(const Variant& Value, std::string_view TypeCode)
 {
-    return Deblanked(Value, TypeCode, "Error using deblank");
+    return Deblanked(Value, TypeCode, file_messages::kDeblank);
 }
 
 std::string deblank1(const Variant& Value, std::string_view TypeCode)
 {
-    return Deblanked(Value, TypeCode, "Error using deblank1");
+    return Deblanked(Value, TypeCode, file_messages::kDeblank1);
 }
 
 } // namespace lumora

@@ -6,6 +6,7 @@
 #include "base/Text.h"
 #include "engine/BlockPipeline.h"
 #include "engine/BlockResampler.h"
+#include "facade/FacadeMessages.h"
 
 #include <filesystem>
 #include <system_error>
@@ -46,7 +47,7 @@ ZELFunctions::~ZELFunctions()
 std::int16_t ZELFunctions::On_Note(ProgressBar& Bar)
 {
     if (InFileName.empty() || !FileExists(InFileName)) {
-        MessageBox().Show("For Analysing need Filename or Sound as clsmatrix", "Analysing",
+        MessageBox().Show(facade_messages::kNeedsFile, facade_messages::kAnalysing,
                           MessageButtons::Ok, MessageIcon::Critical);
         return -1;
     }
