@@ -42,9 +42,7 @@ std::optional<fs::path> FindIgnoringCase(const fs::path& folder, std::string_vie
 
 fs::path ProgramFolder()
 {
-    if (!FolderSet().empty()) return FolderSet();
-    std::error_code ignored;
-    return fs::read_symlink("/proc/self/exe", ignored).parent_path();
+    return FolderSet();
 }
 
 void SetProgramFolder(fs::path folder)

@@ -15,9 +15,9 @@ bool FileExists(const std::string& file_name);
 std::optional<std::filesystem::path> FindIgnoringCase(const std::filesystem::path& folder,
                                                       std::string_view name);
 
-/// The folder of the running program, or the one set.
+/// The folder of the program that uses the library. The library asks no system for it: it is empty
+/// until the program sets it.
 std::filesystem::path ProgramFolder();
-/// Sets what ProgramFolder answers; an empty path goes back to the running program's.
 void SetProgramFolder(std::filesystem::path folder);
 
 } // namespace lumora

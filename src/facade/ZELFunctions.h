@@ -11,7 +11,8 @@ namespace lumora {
 /// operation. All fields start at zero or empty.
 ///
 /// Ends with a clean-up: every "*.wav" in the folders PsolaTrans, LPCTrans, On_Note and Synthsize
-/// under ProgramFolder() is deleted; whatever fails at it is ignored.
+/// under ProgramFolder() is deleted; whatever fails at it is ignored. Nothing is deleted where the
+/// program has not set its folder.
 class ZELFunctions {
 public:
     ZELFunctions() = default;

@@ -252,6 +252,25 @@ TEST_F(Facade, DeletesTheWavesOfFourFoldersAtItsEnd)
     EXPECT_TRUE(fs::exists(folder / "beside.wav"));
 }
 
+TEST_F(Facade, DeletesNothingWhereTheProgramHasNotSetItsFolder)
+{
+    folder.MakeFolder("On_Note");
+    const std::string wave = folder.Write("On_Note/a.wav", "x");
+    const fs::path before = fs::current_path();
+    fs::current_path(folder.Path());
+    SetProgramFolder({});
+    {
+        ZELFunctions object;
+    }
+    fs::current_path(before);
+    EXPECT_TRUE(fs::exists(wave));
+    SetProgramFolder(folder.Path());
+    {
+        ZELFunctions object;
+    }
+    EXPECT_FALSE(fs::exists(wave));
+}
+
 TEST_F(Facade, EndsQuietlyWhereTheFoldersAreMissingOrNoFolders)
 {
     folder.Write("On_Note", "a file of that name");
