@@ -84,34 +84,30 @@ void ClsWsolaQuick::SetUp(const std::int16_t& N, const std::int16_t& S, const st
     const int fine_shifts = 2 * S + 1;
     const auto most_shifts = static_cast<std::size_t>(std::max({coarse_shifts, fine_shifts, 1}));
 
-    const std::size_t slack = kHopsBetweenMoves * Size(N);
-    InBuf.SetUp(Size(InLen), slack, kReadAhead);
-    OutBuf.SetUp(Size(OutLen), slack, 0);
-    Target.assign(Size(TargetLen), 0.0);
-    CoarseIn.assign(Size(coarse_in_len_) + kReadAhead, 0.0);
-    CoarseTarget.assign(Size(coarse_target_len_), 0.0);
-    search_.SetUp(most_shifts);
-
-    short_in_.SetUp(Size(InLen), slack, kReadAhead);
-    short_target_.assign(Target.size() + kReadAhead, 0);
-    short_coarse_in_.assign(CoarseIn.size(), 0);
-    short_coarse_target_.assign(CoarseTarget.size() + kReadAhead, 0);
+    SetUp(samples_);
+    SetUp(shorts_);
     short_samples_ = InLen;
     target_is_in_shorts_ = true;
+    OutBuf.SetUp(Size(OutLen), kHopsBetweenMoves * Size(N), 0);
+    search_.SetUp(most_shifts);
     Window = HannWindow(FrameLen);
+}
+
+template <class T> void ClsWsolaQuick::SetUp(Searched<T>& searched) const
+{
+    searched.InBuf.SetUp(Size(InLen), kHopsBetweenMoves * Size(BlockLen), kReadAhead);
+    searched.Target.assign(Size(TargetLen) + kReadAhead, T{});
+    searched.CoarseIn.assign(Size(coarse_in_len_) + kReadAhead, T{});
+    searched.CoarseTarget.assign(Size(coarse_target_len_) + kReadAhead, T{});
 }
 
 void ClsWsolaQuick::Destruct()
 {
     search_.Release();
-    InBuf.Release();
+    samples_ = {};
+    shorts_ = {};
     OutBuf.Release();
-    short_in_.Release();
-    for (std::vector<std::int16_t>* array :
-         {&short_target_, &short_coarse_in_, &short_coarse_target_})
-        *array = {};
-    for (std::vector<double>* array : {&Target, &CoarseIn, &CoarseTarget, &Window})
-        *array = {};
+    Window = {};
 }
 
 Array<double> ClsWsolaQuick::Wsola_Operation(const Array<double>& Block, const double& Scale)
@@ -125,12 +121,16 @@ Array<double> ClsWsolaQuick::Wsola_Operation(const Array<double>& Block, const d
 
 std::span<const double> ClsWsolaQuick::Stretch(std::span<const double> block, double scale)
 {
-    const std::int16_t K = Begin(block.size(), scale);
-    TakeIn(block);
-    return Finish(K, scale);
+    return StretchBlock(block, scale);
 }
 
 std::span<const double> ClsWsolaQuick::Stretch(std::span<const std::int16_t> block, double scale)
+{
+    return StretchBlock(block, scale);
+}
+
+template <class T>
+std::span<const double> ClsWsolaQuick::StretchBlock(std::span<const T> block, double scale)
 {
     const std::int16_t K = Begin(block.size(), scale);
     TakeIn(block);
@@ -164,15 +164,15 @@ std::span<const double> ClsWsolaQuick::Finish(std::int16_t K, double scale)
 
 void ClsWsolaQuick::TakeIn(std::span<const double> block)
 {
-    std::copy(block.begin(), block.end(), InBuf.Slide(block.size()).begin());
+    std::copy(block.begin(), block.end(), samples_.InBuf.Slide(block.size()).begin());
     short_samples_ = 0;
 }
 
 void ClsWsolaQuick::TakeIn(std::span<const std::int16_t> block)
 {
-    SamplesFromShorts(block, InBuf.Slide(block.size()));
+    SamplesFromShorts(block, samples_.InBuf.Slide(block.size()));
     if (!search_.TakesShorts()) return;
-    std::copy(block.begin(), block.end(), short_in_.Slide(block.size()).begin());
+    std::copy(block.begin(), block.end(), shorts_.InBuf.Slide(block.size()).begin());
     short_samples_ = std::min(short_samples_ + BlockLen, int{InLen});
 }
 
@@ -222,24 +222,29 @@ void ClsWsolaQuick::OverlapAdd()
     CheckRange(WritePos - BlockLen, WritePos + BlockLen, OutLen);
     CheckRange(ReadPos - BlockLen, ReadPos + BlockLen, InLen);
     kernels_->overlap_add(OutBuf.Data() + Place(WritePos - BlockLen),
-                          InBuf.Data() + Place(ReadPos - BlockLen), Window.data(), Window.size());
+                          samples_.InBuf.Data() + Place(ReadPos - BlockLen), Window.data(),
+                          Window.size());
 }
 
 /// The frame that would come next without a jump. It starts at the centre of the frame last taken.
 void ClsWsolaQuick::CaptureTarget()
 {
     CheckRange(ReadPos, ReadPos + TargetLen - 1, InLen);
-    std::copy_n(InBuf.Data() + Place(ReadPos), TargetLen, Target.begin());
+    CaptureTarget(samples_);
     target_is_in_shorts_ = short_samples_ > InLen - ReadPos;
-    if (target_is_in_shorts_)
-        std::copy_n(short_in_.Data() + Place(ReadPos), TargetLen, short_target_.begin());
+    if (target_is_in_shorts_) CaptureTarget(shorts_);
+}
+
+template <class T> void ClsWsolaQuick::CaptureTarget(Searched<T>& searched) const
+{
+    std::copy_n(searched.InBuf.Data() + Place(ReadPos), TargetLen, searched.Target.begin());
 }
 
 /// Integers serve when all that a search looks at came as such, and no product overflows them.
 bool ClsWsolaQuick::SearchesShorts() const
 {
     return search_.TakesShorts() && target_is_in_shorts_ && short_samples_ == InLen &&
-           *std::ranges::min_element(short_target_) > std::numeric_limits<std::int16_t>::min();
+           *std::ranges::min_element(shorts_.Target) > std::numeric_limits<std::int16_t>::min();
 }
 
 /// Plain subsampling, no filter. Places of Dest behind the last one written keep what they held,
@@ -257,21 +262,18 @@ void ClsWsolaQuick::Decimate(std::span<const T> Source, std::span<T> Dest, std::
 }
 
 /// Index of the best shift of CoarseTarget within CoarseIn, from 1.
-std::int16_t ClsWsolaQuick::CoarseMatch(bool shorts)
+template <class T> std::int16_t ClsWsolaQuick::CoarseMatch(const Searched<T>& searched)
 {
     const int last_shift = coarse_in_len_ - coarse_target_len_;
     if (last_shift < 0) Raise(ErrorNumber::Subscript);
-    const std::size_t points = Size(coarse_target_len_);
     const std::size_t shifts = static_cast<std::size_t>(last_shift) + 1;
-    return CInt(1 + (shorts
-                         ? search_.BestShift(short_coarse_in_.data(), short_coarse_target_.data(),
-                                             points, shifts, EnergyWindow::Exact)
-                         : search_.BestShift(CoarseIn.data(), CoarseTarget.data(), points, shifts,
-                                             EnergyWindow::Exact)));
+    return CInt(1 + search_.BestShift(searched.CoarseIn.data(), searched.CoarseTarget.data(),
+                                      Size(coarse_target_len_), shifts, EnergyWindow::Exact));
 }
 
 /// Best start of Target in InBuf, S samples around the coarse one.
-std::int16_t ClsWsolaQuick::FineMatch(std::int16_t coarse_start, bool shorts)
+template <class T>
+std::int16_t ClsWsolaQuick::FineMatch(const Searched<T>& searched, std::int16_t coarse_start)
 {
     const std::int16_t lo = CInt(coarse_start - CoarseStep);
     std::int16_t hi = 0;
@@ -279,32 +281,31 @@ std::int16_t ClsWsolaQuick::FineMatch(std::int16_t coarse_start, bool shorts)
     std::int16_t last = 0;
     MaxOf(lo, hi, last); // Lo itself is always tried
     CheckRange(lo, last + TargetLen - 1, InLen);
-    const std::size_t points = Target.size();
     const std::size_t shifts = static_cast<std::size_t>(last - lo) + 1;
-    return CInt(
-        lo + static_cast<int>(shorts ? search_.BestShift(short_in_.Data() + Place(lo),
-                                                         short_target_.data(), points, shifts,
-                                                         EnergyWindow::OneAhead)
-                                     : search_.BestShift(InBuf.Data() + Place(lo), Target.data(),
-                                                         points, shifts, EnergyWindow::OneAhead)));
+    return CInt(lo + static_cast<int>(search_.BestShift(searched.InBuf.Data() + Place(lo),
+                                                        searched.Target.data(), Size(TargetLen),
+                                                        shifts, EnergyWindow::OneAhead)));
 }
 
 /// The frame centre, at most `most`, whose frame best continues the target; the coarse search sees
 /// the input from `first` to `last`.
 std::int16_t ClsWsolaQuick::Match(std::int16_t first, std::int16_t last, std::int16_t most)
 {
-    const bool shorts = SearchesShorts();
-    if (shorts) {
-        Decimate<std::int16_t>(short_in_.All(), short_coarse_in_, first, last);
-        Decimate<std::int16_t>(short_target_, short_coarse_target_, 1, TargetLen);
-    } else {
-        Decimate<double>(InBuf.All(), CoarseIn, first, last);
-        Decimate<double>(Target, CoarseTarget, 1, TargetLen);
-    }
-    const std::int16_t coarse_start = CInt(CoarseStep * (CoarseMatch(shorts) - 1) + first);
+    const std::int16_t start =
+        SearchesShorts() ? MatchIn(shorts_, first, last) : MatchIn(samples_, first, last);
     std::int16_t centre = 0;
-    MinOf(CInt(FineMatch(coarse_start, shorts) + BlockLen), most, centre);
+    MinOf(CInt(start + BlockLen), most, centre);
     return centre;
+}
+
+/// Where the frame starts.
+template <class T>
+std::int16_t ClsWsolaQuick::MatchIn(Searched<T>& searched, std::int16_t first, std::int16_t last)
+{
+    Decimate<T>(searched.InBuf.All(), searched.CoarseIn, first, last);
+    Decimate<T>(searched.Target, searched.CoarseTarget, 1, TargetLen);
+    const std::int16_t coarse_start = CInt(CoarseStep * (CoarseMatch(searched) - 1) + first);
+    return FineMatch(searched, coarse_start);
 }
 
 /// Compression looks in the newest part of the input.

@@ -55,6 +55,18 @@ public:
     void Destruct();
 
 private:
+    /// What a search looks at, in one type of sample: double, or 16 bits for samples times 32768.
+    /// Every array has room behind it for what the kernels read ahead.
+    template <class T> struct Searched {
+        SlidingBuffer<T> InBuf;
+        std::vector<T> Target;       ///< the natural continuation last captured
+        std::vector<T> CoarseIn;     ///< every S-th sample of the part of InBuf under search
+        std::vector<T> CoarseTarget; ///< every S-th sample of Target
+    };
+    template <class T> void SetUp(Searched<T>& searched) const;
+    template <class T> void CaptureTarget(Searched<T>& searched) const;
+
+    template <class T> std::span<const double> StretchBlock(std::span<const T> block, double scale);
     std::int16_t Begin(std::size_t block_length, double scale);
     std::span<const double> Finish(std::int16_t K, double scale);
     void TakeIn(std::span<const double> block);
@@ -65,8 +77,11 @@ private:
 
     bool SearchesShorts() const;
     std::int16_t Match(std::int16_t first, std::int16_t last, std::int16_t most);
-    std::int16_t CoarseMatch(bool shorts);
-    std::int16_t FineMatch(std::int16_t coarse_start, bool shorts);
+    template <class T>
+    std::int16_t MatchIn(Searched<T>& searched, std::int16_t first, std::int16_t last);
+    template <class T> std::int16_t CoarseMatch(const Searched<T>& searched);
+    template <class T>
+    std::int16_t FineMatch(const Searched<T>& searched, std::int16_t coarse_start);
     std::int16_t MatchForward();
     std::int16_t MatchBackward();
     static void MinOf(const std::int16_t& A, const std::int16_t& B, std::int16_t& Result);
@@ -97,19 +112,15 @@ private:
     std::int16_t WritePos = 0;     ///< centre, in OutBuf, of the frame last added; from 1
     std::int16_t PrevOutCount = 0; ///< samples handed out by the call before
 
-    SlidingBuffer<double> InBuf;
+    Searched<double> samples_;
     SlidingBuffer<double> OutBuf;
-    std::vector<double> Target;       ///< the natural continuation last captured
-    std::vector<double> CoarseIn;     ///< every S-th sample of the part of InBuf under search
-    std::vector<double> CoarseTarget; ///< every S-th sample of Target
-    std::vector<double> Window;       ///< Hann
-    std::int16_t coarse_in_len_ = 0;  ///< CoarseIn and CoarseTarget without what the kernels read
-    std::int16_t coarse_target_len_ = 0; ///< ahead
+    std::vector<double> Window;          ///< Hann
+    std::int16_t coarse_in_len_ = 0;     ///< CoarseIn without the room behind it
+    std::int16_t coarse_target_len_ = 0; ///< CoarseTarget without it
 
     // The same samples times 32768, as far as blocks came that way.
-    SlidingBuffer<std::int16_t> short_in_;
-    std::vector<std::int16_t> short_target_, short_coarse_in_, short_coarse_target_;
-    int short_samples_ = 0; ///< how many at the end of the input are in short_in_
+    Searched<std::int16_t> shorts_;
+    int short_samples_ = 0; ///< how many at the end of the input are there as shorts
     bool target_is_in_shorts_ = false;
 };
 
