@@ -16,7 +16,7 @@ public:
     DeclipWork(const DeclipRequest& request, const ReadyFile& file)
         : request_(request),
           file_(file),
-          length_(request.keep_length ? OverFilterLength::Kept : OverFilterLength::AsTold),
+          length_(request.keep_length ? OverFilterLength::Kept : OverFilterLength::Delayed),
           panels_(file.sound.rate_hz, file.sound.channels)
     {
     }

@@ -73,7 +73,7 @@ nlohmann::ordered_json DelayFrames(const OverFilterReport& report, const SoundSh
 bool ExchangesChannels(const OverFilterReport& report, const SoundShape& sound,
                        OverFilterLength length)
 {
-    return length == OverFilterLength::AsTold && (report.BufferLen - 1) % sound.channels != 0;
+    return length == OverFilterLength::Delayed && (report.BufferLen - 1) % sound.channels != 0;
 }
 
 bool FlattensOneSide(const OverFilterReport& report, const SoundShape& sound)

@@ -8,8 +8,11 @@
 namespace lumora {
 
 enum class OverFilterLength {
-    AsTold, ///< BufferLen - 1 interleaved zeros first; as many samples of the source never come out
-    Kept,   ///< without these zeros and with silence fed at the end: aligned with the source
+    /// As the filter runs: BufferLen - 1 interleaved zeros first, and as many samples of the source
+    /// never come out.
+    Delayed,
+    /// Without these zeros and with silence fed at the end: aligned with the source.
+    Kept,
 };
 
 struct OverFilterReport {
@@ -22,7 +25,8 @@ struct OverFilterReport {
     std::int16_t QualityGood = 0;
     std::int16_t BufferLen = 0; ///< in interleaved samples; the delay is one less
     OverFilterFigures figures;
-    /// Regions in the last BufferLen - 1 samples of the source, which do not come out AsTold.
+    /// Regions in the last BufferLen - 1 samples of the source, which do not come out where it is
+    /// Delayed.
     std::int64_t regions_behind = 0;
 };
 
@@ -36,7 +40,7 @@ struct OverFilterReport {
 /// fopen.". Errors: 75 where the target is the source; those of OverFilterRun; 61, 70, 75 while
 /// writing.
 OverFilterReport RemoveOverStream(const std::string& SourcePath, const std::string& TargetPath,
-                                  OverFilterLength Length = OverFilterLength::AsTold,
+                                  OverFilterLength Length = OverFilterLength::Delayed,
                                   const OverFilterHooks& Hooks = {});
 
 } // namespace lumora

@@ -25,7 +25,7 @@ protected:
         EXPECT_EQ(OpenFileCount(), open_before);
     }
 
-    OverFilterReport Run(OverFilterLength length = OverFilterLength::AsTold,
+    OverFilterReport Run(OverFilterLength length = OverFilterLength::Delayed,
                          OverFilterHooks hooks = {})
     {
         hooks.Random = Ramp();
@@ -118,7 +118,7 @@ TEST_F(RemoveOverStreamTest, ReportsWhatTheFilterDid)
         const auto first = static_cast<std::size_t>(region.start - 1);
         EXPECT_GT(region.sign * sound.Sample(first), 0.8);
     };
-    const OverFilterReport report = Run(OverFilterLength::AsTold, hooks);
+    const OverFilterReport report = Run(OverFilterLength::Delayed, hooks);
     EXPECT_EQ(report.figures.rebuilt, seen);
     EXPECT_GT(seen, 10);
     EXPECT_GT(report.figures.largest_gain, 1.0);
@@ -136,7 +136,7 @@ TEST_F(RemoveOverStreamTest, ProgressGoesOverTheSecondsAndTwoStepsMore)
     OverFilterHooks hooks;
     hooks.Bar = &bar;
     hooks.PumpEvents = [&] { values.push_back(bar.Value); };
-    Run(OverFilterLength::AsTold, hooks);
+    Run(OverFilterLength::Delayed, hooks);
     EXPECT_EQ(bar.Max, 4);
     EXPECT_EQ(values, (std::vector<std::int32_t>{1, 2, 4}));
 }
@@ -206,7 +206,7 @@ TEST_F(RemoveOverStreamTest, ASourceThatIsCutDownOnTheWayReadsAsZerosFromThere)
     hooks.PumpEvents = [&, cut = false]() mutable {
         if (!std::exchange(cut, true)) std::filesystem::resize_file(source, 44 + 2 * 20000);
     };
-    EXPECT_EQ(Run(OverFilterLength::AsTold, hooks).end, End::Complete);
+    EXPECT_EQ(Run(OverFilterLength::Delayed, hooks).end, End::Complete);
     std::fill(sound.numbers.begin() + 20000, sound.numbers.end(), 0);
     EXPECT_TRUE(BytesOf(target) == ExpectedOf(sound).file);
 }
