@@ -44,14 +44,15 @@ private:
     OverFilterReport Filter()
     {
         ProgressBar bar;
-        OverFilterHooks hooks;
-        hooks.Bar = &bar;
-        hooks.PumpEvents = [&] {
+        OverFilterRequest request;
+        request.Hooks.Bar = &bar;
+        request.Hooks.PumpEvents = [&] {
             file_.progress(bar.Max > 0 ? static_cast<double>(bar.Value) / bar.Max : 0.0);
         };
         if (!file_.picture.empty())
-            hooks.OnRegion = [&](const RebuiltRegion& region) { panels_.Take(region); };
-        const OverFilterReport report = RemoveOverStream(file_.input, file_.result, length_, hooks);
+            request.OnRegion = [&](const RebuiltRegion& region) { panels_.Take(region); };
+        const OverFilterReport report =
+            RemoveOverStream(file_.input, file_.result, length_, request);
         // A singular system shows a message too, but that is one region's and in the figures.
         if (report.end == OverFilterReport::End::Failed)
             throw JobFailure("the run failed: " + file_.messages.First());

@@ -19,7 +19,7 @@ void ChangePitch(const ReadyFile& file, double quotient)
     facade.InFileName = file.input;
     facade.OutFileName = file.result;
     facade.Q_P = quotient;
-    facade.Hooks.PumpEvents = [&] {
+    facade.PumpEvents = [&] {
         file.progress(bar.Max > 0 ? static_cast<double>(bar.Value) / bar.Max : 0.0);
     };
     if (facade.On_Note(bar) != 0)

@@ -154,18 +154,14 @@ private:
 
     void StartProgress()
     {
-        if (hooks_.Bar) {
-            hooks_.Bar->Value = 0;
-            hooks_.Bar->Min = 0;
-            hooks_.Bar->Max = chunk_count_ + 1;
-        }
+        hooks_.StartBar(chunk_count_ + 1);
         hooks_.Pump();
         hooks_.Publish(1);
     }
 
     void Step(std::int16_t chunk)
     {
-        if (hooks_.Bar) ++hooks_.Bar->Value;
+        hooks_.StepBar();
         hooks_.Pump();
         hooks_.Publish(CInt(chunk * 100.0 / (chunk_count_ + 1)));
     }
@@ -173,7 +169,7 @@ private:
     void EndProgress()
     {
         hooks_.Publish(100);
-        if (hooks_.Bar) hooks_.Bar->Value = hooks_.Bar->Max;
+        hooks_.FillBar();
         hooks_.Pump();
     }
 

@@ -19,7 +19,8 @@ struct PitchRun {
 /// Streams the file through stretching and resampling, chunk by chunk; memory does not grow with
 /// its length. The result has the input's rate and channels, 16 bits, and its length rounded down
 /// to whole blocks; it lags by BlockLen + 1 samples. Between chunks the file written is valid, and
-/// Bar (0..chunks + 1), PumpEvents and PublishPercent are served. A missing input ends it silently.
+/// Bar (0..chunks + 1), PumpEvents and PublishPercent are served; a run cannot be cancelled. A
+/// missing input ends it silently.
 ///
 /// The resampler's one surviving sample goes from run to run: a run that must not depend on the one
 /// before takes a fresh BlockResampler.

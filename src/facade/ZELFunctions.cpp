@@ -56,7 +56,7 @@ std::int16_t ZELFunctions::On_Note(ProgressBar& Bar)
         WsolaClsTest_Stereo(Bar);
     else
         WsolaClsTest(Bar);
-    Hooks.Publish(100);
+    if (PublishPercent) PublishPercent(100);
     return 0;
 }
 
@@ -75,8 +75,7 @@ void ZELFunctions::Run(ProgressBar& bar, int channels)
     if (InFileName.empty() || !FileExists(InFileName)) return;
     if (Q_P == 0.0) Q_P = 1.0;
     NotePersent = 0;
-    RunHooks hooks = Hooks;
-    hooks.Bar = &bar;
+    const RunHooks hooks{&bar, PumpEvents, PublishPercent};
     RunBlockPipeline({InFileName, OutFileName, Q_P, channels}, ProcessResampler(), hooks);
 }
 

@@ -3,6 +3,7 @@
 #include "base/Progress.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace lumora {
@@ -45,8 +46,9 @@ public:
     std::int16_t TransformPersent = 0;
     std::int16_t StopProcess = 0; ///< stored only: a run does not look at it
 
-    /// What a run calls on its way; its Bar is replaced by the one of the call.
-    RunHooks Hooks;
+    // What a run calls on its way, as RunBlockPipeline tells; the bar comes with each call.
+    std::function<void()> PumpEvents;
+    std::function<void(std::int16_t)> PublishPercent;
 
     /// Changes the pitch of InFileName into OutFileName: mono and stereo by the header's channels
     /// (any count but 2 takes the mono path). 0 when the run took place; -1 when InFileName is
@@ -59,7 +61,7 @@ public:
     void WsolaClsTest(ProgressBar& Bar);
     void WsolaClsTest_Stereo(ProgressBar& Bar);
 
-    /// Every numeric field to zero, every file name empty. Hooks stay.
+    /// Every numeric field to zero, every file name empty. What a run calls stays.
     void RefreshObj();
 
 private:

@@ -54,14 +54,18 @@ Array<double> OutputStore(const OverFilterRun& run)
 } // namespace
 
 std::string RemoveOverFile(const std::string& SourcePath, std::int16_t& QualityFlag,
-                           ProgressBar* Progress, const OverFilterHooks& Hooks)
+                           ProgressBar* Progress)
 {
-    OverFilterHooks hooks = Hooks;
-    hooks.Bar = Progress;
+    return RemoveOverFile(SourcePath, QualityFlag, OverFilterRequest{{Progress}});
+}
+
+std::string RemoveOverFile(const std::string& SourcePath, std::int16_t& QualityFlag,
+                           const OverFilterRequest& Request)
+{
     std::string result = TemporaryPath(SourcePath);
     if (LinksTo(SourcePath, result)) Raise(ErrorNumber::PathFileAccess, result);
     DeleteFile(result);
-    OverFilterRun run(SourcePath, hooks);
+    OverFilterRun run(SourcePath, Request);
     if (!run.HasSource()) return {};
     Array<double> store = OutputStore(run);
     double* next = store.Span().data();

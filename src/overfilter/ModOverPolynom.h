@@ -18,15 +18,16 @@ namespace lumora {
 /// solvable. QualityFlag (1 good, 0 poor) follows the filter's flag after every second of sound.
 /// The whole output stands in memory until it is written: 8 bytes a sample, and a fixed amount.
 ///
-/// Progress takes the place of the Bar of Hooks.
-///
-/// A stereo sound of one or two frames is written as wavwrite takes a matrix of so few columns:
-/// with rows and columns exchanged.
+/// A stereo sound of one or two frames is written as wavwrite takes a matrix of so few columns: with
+/// rows and columns exchanged.
 ///
 /// Errors: 5 for a file name of fewer than four characters; 75 where the source is a symbolic link
 /// to the temporary file; 70, 75 where an earlier one cannot be deleted; those of OverFilterRun; 7
 /// for more samples than memory holds; 61, 70, 75 while writing. A file half written is removed.
 std::string RemoveOverFile(const std::string& SourcePath, std::int16_t& QualityFlag,
-                           ProgressBar* Progress = nullptr, const OverFilterHooks& Hooks = {});
+                           ProgressBar* Progress = nullptr);
+/// The same with all that may go with a run.
+std::string RemoveOverFile(const std::string& SourcePath, std::int16_t& QualityFlag,
+                           const OverFilterRequest& Request);
 
 } // namespace lumora

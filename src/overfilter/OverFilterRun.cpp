@@ -20,15 +20,15 @@ constexpr double kDitherDivisor = 1e9;
 
 } // namespace
 
-OverFilterRun::OverFilterRun(const std::string& source, const OverFilterHooks& hooks)
-    : hooks_(hooks), info_(ReadWaveInfo(source))
+OverFilterRun::OverFilterRun(const std::string& source, const OverFilterRequest& request)
+    : request_(request), info_(ReadWaveInfo(source))
 {
     if (!info_.Message.empty() || info_.DataID.empty()) return;
     const bool plain = info_.nBitsPerSample == 8 || info_.nBitsPerSample == 16;
     if (info_.TotalSamples < 1 || !plain) Raise(ErrorNumber::Subscript, source);
     channels_ = info_.nChannels == 1 ? 1 : 2;
     SetUpForRate(filter_, info_.nSamplesPerSec);
-    filter_.Observe(hooks_.OnRegion);
+    filter_.Observe(request.OnRegion);
     file_ = std::make_unique<OpenFile>(open_wav(source));
     has_source_ = !file_->Failed();
     if (has_source_) CheckPromise();
@@ -47,7 +47,8 @@ bool OverFilterRun::Run(const SampleSink& sink, std::int16_t& QualityFlag)
 {
     const std::int64_t rate = info_.nSamplesPerSec;
     const std::int64_t blocks = info_.TotalSamples / rate;
-    if (hooks_.Bar) *hooks_.Bar = {0, 0, CLng(blocks + 2)};
+    const RunHooks& hooks = request_.Hooks;
+    hooks.StartBar(CLng(blocks + 2));
     bool failed = false;
     const auto copy_quality = [&] {
         if (!failed) QualityFlag = filter_.QualityGood();
@@ -56,12 +57,12 @@ bool OverFilterRun::Run(const SampleSink& sink, std::int16_t& QualityFlag)
     for (std::int64_t b = 0; b < blocks; ++b) {
         FilterRange(b * rate, rate, sink);
         copy_quality();
-        if (hooks_.CancelRequested && hooks_.CancelRequested()) return false;
-        if (hooks_.Bar) hooks_.Bar->Value = CLng(b + 1);
-        Pump();
+        if (hooks.Cancelled()) return false;
+        hooks.StepBar();
+        hooks.Pump();
     }
     FilterRange(blocks * rate, info_.TotalSamples - blocks * rate, sink);
-    if (hooks_.Bar) ++hooks_.Bar->Value;
+    hooks.StepBar();
     copy_quality();
     return true;
 }
@@ -77,8 +78,8 @@ void OverFilterRun::FeedSilence(std::size_t count, const SampleSink& sink)
 void OverFilterRun::Finish()
 {
     filter_.Destruct();
-    if (hooks_.Bar) hooks_.Bar->Value = hooks_.Bar->Max;
-    Pump();
+    request_.Hooks.FillBar();
+    request_.Hooks.Pump();
 }
 
 void OverFilterRun::FilterRange(std::int64_t first_frame, std::int64_t frames,
@@ -126,12 +127,7 @@ void OverFilterRun::Dither(std::span<double> samples)
 {
     for (double& sample : samples)
         if (std::abs(sample) <= kSilence)
-            sample = ((hooks_.Random ? hooks_.Random() : own_noise_()) - 0.5) / kDitherDivisor;
-}
-
-void OverFilterRun::Pump() const
-{
-    if (hooks_.PumpEvents) hooks_.PumpEvents();
+            sample = ((request_.Random ? request_.Random() : own_noise_()) - 0.5) / kDitherDivisor;
 }
 
 } // namespace lumora

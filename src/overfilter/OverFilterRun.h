@@ -16,17 +16,16 @@
 
 namespace lumora {
 
-/// What a run of the over-range filter calls on its way. Everything may be empty.
-struct OverFilterHooks {
-    ProgressBar* Bar = nullptr; ///< 0..whole seconds + 2
-    /// Lets the program handle what has come up; called after every second of sound and at the end.
-    std::function<void()> PumpEvents = {};
-    /// Asked after every whole second of sound; true ends the run with nothing left behind.
-    std::function<bool()> CancelRequested = {};
+/// What goes with a run of the over-range filter. Everything may be empty.
+struct OverFilterRequest {
+    /// Bar goes over 0..whole seconds + 2. CancelRequested is asked after every whole second of
+    /// sound, and true ends the run with nothing left behind; PumpEvents is called after every
+    /// second and at the end. PublishPercent is not.
+    RunHooks Hooks = {};
     /// Uniform random numbers in 0..1 for the dither of digital silence. Empty: DitherNoise from
     /// its own seed, the same for every run.
     std::function<double()> Random = {};
-    RegionObserver OnRegion = {};
+    RegionObserver OnRegion = {}; ///< told of each region as it is rebuilt
 };
 
 /// Takes the samples that have left the filter, interleaved, a block a call.
@@ -35,10 +34,10 @@ using SampleSink = std::function<void(std::span<const double>)>;
 /// One WAVE file through the filter, in blocks of one second. Memory does not grow with its length.
 class OverFilterRun {
 public:
-    /// Reads the header and sets the filter up; `hooks` has to outlive the run. Errors: 9 (no
+    /// Reads the header and sets the filter up; `request` has to outlive the run. Errors: 9 (no
     /// samples; another width than 8 or 16 bits; a rate below 919 Hz), 6 (a rate above 2.46 MHz), 7
     /// (the file lacks more than 1.45 seconds of what its header promises), those of ReadWaveInfo.
-    OverFilterRun(const std::string& source, const OverFilterHooks& hooks);
+    OverFilterRun(const std::string& source, const OverFilterRequest& request);
 
     /// False if there is no source or its header is faulty; a message has told so.
     bool HasSource() const { return has_source_; }
@@ -62,9 +61,8 @@ private:
     template <class Raw>
     void ReadAs(Array<Raw>& raw, std::int64_t first_frame, std::span<double> samples);
     void Dither(std::span<double> samples);
-    void Pump() const;
 
-    const OverFilterHooks& hooks_;
+    const OverFilterRequest& request_;
     DitherNoise own_noise_;
     WaveInfo info_;
     bool has_source_ = false;

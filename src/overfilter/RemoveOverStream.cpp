@@ -78,13 +78,13 @@ bool RunInto(TargetWriter& target, OverFilterRun& run, OverFilterLength length,
 } // namespace
 
 OverFilterReport RemoveOverStream(const std::string& SourcePath, const std::string& TargetPath,
-                                  OverFilterLength Length, const OverFilterHooks& Hooks)
+                                  OverFilterLength Length, const OverFilterRequest& Request)
 {
     std::error_code ignored;
     if (std::filesystem::equivalent(WaveFileName(SourcePath), TargetPath, ignored))
         Raise(ErrorNumber::PathFileAccess, TargetPath);
     OverFilterReport report;
-    OverFilterRun run(SourcePath, Hooks);
+    OverFilterRun run(SourcePath, Request);
     if (!run.HasSource()) return report;
     report.BufferLen = run.Filter().BufferLen();
     OpenFile file(fopen(TargetPath, "wb"));

@@ -41,6 +41,6 @@ struct OverFilterReport {
 /// writing.
 OverFilterReport RemoveOverStream(const std::string& SourcePath, const std::string& TargetPath,
                                   OverFilterLength Length = OverFilterLength::Delayed,
-                                  const OverFilterHooks& Hooks = {});
+                                  const OverFilterRequest& Request = {});
 
 } // namespace lumora

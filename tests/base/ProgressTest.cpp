@@ -12,6 +12,10 @@ TEST(RunHooks, MayAllBeEmpty)
     EXPECT_EQ(hooks.Bar, nullptr);
     EXPECT_NO_THROW(hooks.Pump());
     EXPECT_NO_THROW(hooks.Publish(50));
+    EXPECT_NO_THROW(hooks.StartBar(3));
+    EXPECT_NO_THROW(hooks.StepBar());
+    EXPECT_NO_THROW(hooks.FillBar());
+    EXPECT_FALSE(hooks.Cancelled());
 }
 
 TEST(RunHooks, PassEachCallOn)
@@ -26,6 +30,30 @@ TEST(RunHooks, PassEachCallOn)
     hooks.Publish(100);
     EXPECT_EQ(pumped, 1);
     EXPECT_EQ(published, (std::vector{1, 100}));
+    bool cancel = false;
+    hooks.CancelRequested = [&] { return cancel; };
+    EXPECT_FALSE(hooks.Cancelled());
+    cancel = true;
+    EXPECT_TRUE(hooks.Cancelled());
+}
+
+TEST(RunHooks, MoveTheirBarFromEmptyToFull)
+{
+    ProgressBar bar{7, 8, 9};
+    const RunHooks hooks{&bar};
+    const auto expect = [&](int value) {
+        EXPECT_EQ(bar.Value, value);
+        EXPECT_EQ(bar.Min, 0);
+        EXPECT_EQ(bar.Max, 5);
+    };
+    hooks.StartBar(5);
+    expect(0);
+    hooks.StepBar();
+    expect(1);
+    hooks.StepBar();
+    expect(2);
+    hooks.FillBar();
+    expect(5);
 }
 
 TEST(ProgressBar, StartsAtZero)

@@ -264,6 +264,14 @@ TEST_F(BlockPipelineRun, LeavesAValidFileBetweenChunks)
     }
 }
 
+TEST_F(BlockPipelineRun, DoesNotAskWhetherItIsCancelled)
+{
+    RunHooks hooks;
+    hooks.CancelRequested = [] { return true; };
+    const Sound sound = Music(1, 3 * kLowChunk, kLowRate);
+    EXPECT_EQ(Run(test::FileOf(sound, kLowRate), 0.8, 1, hooks).sound[0].size(), 3 * kLowChunk);
+}
+
 TEST_F(BlockPipelineRun, EndsSilentlyWithoutInput)
 {
     Told told;

@@ -26,11 +26,11 @@ protected:
         EXPECT_EQ(OpenFileCount(), open_before);
     }
 
-    static OverFilterHooks WithRamp()
+    static OverFilterRequest WithRamp()
     {
-        OverFilterHooks hooks;
-        hooks.Random = Ramp();
-        return hooks;
+        OverFilterRequest request;
+        request.Random = Ramp();
+        return request;
     }
 
     std::string SoundFile(std::size_t frames, double drive = 2.0, int channels = 1)
@@ -64,7 +64,7 @@ TEST_F(RemoveOverFileTest, WritesWhatThePlainFilterMakes)
                     const Source source = SourceOf(noise, channels, bits, 8000, frames, drive);
                     const std::string path = folder.Write("song.wav", FileOf(source));
                     const Expected expected = ExpectedOf(source);
-                    EXPECT_EQ(RemoveOverFile(path, quality, nullptr, WithRamp()), result);
+                    EXPECT_EQ(RemoveOverFile(path, quality, WithRamp()), result);
                     EXPECT_EQ(quality, expected.quality_good);
                     EXPECT_TRUE(BytesOf(result) == expected.file);
                 }
@@ -93,7 +93,7 @@ TEST_F(RemoveOverFileTest, OfMoreThanTwoChannelsTheFirstTwoAreTaken)
     for (std::size_t k = 0; k < stereo.numbers.size(); k += 2)
         four.numbers.insert(four.numbers.end(),
                             {stereo.numbers[k], stereo.numbers[k + 1], 30000, -30000});
-    RemoveOverFile(folder.Write("song.wav", FileOf(four)), quality, nullptr, WithRamp());
+    RemoveOverFile(folder.Write("song.wav", FileOf(four)), quality, WithRamp());
     EXPECT_TRUE(BytesOf(result) == ExpectedOf(stereo).file);
 }
 
@@ -120,9 +120,9 @@ TEST_F(RemoveOverFileTest, EachSampleOfSilenceBecomesADitherOfItsOwn)
     numbers[100] = 1;
     numbers[101] = -1;
     const std::string path = folder.Write("song.wav", FileOf({1, 16, 8000, numbers}));
-    OverFilterHooks hooks;
-    hooks.Random = [k = 0U]() mutable { return std::array{0.0, 1.0, 0.75}[k++ % 3]; };
-    OverFilterRun run(path, hooks);
+    OverFilterRequest request;
+    request.Random = [k = 0U]() mutable { return std::array{0.0, 1.0, 0.75}[k++ % 3]; };
+    OverFilterRun run(path, request);
     std::vector<double> out;
     run.Run([&](std::span<const double> samples) { out.assign(samples.begin(), samples.end()); },
             quality);
@@ -173,14 +173,19 @@ TEST_F(RemoveOverFileTest, ProgressGoesOverTheSecondsAndTwoStepsMore)
 {
     ProgressBar bar{5, 6, 7};
     std::vector<std::int32_t> values;
-    OverFilterHooks hooks;
-    hooks.PumpEvents = [&] {
+    OverFilterRequest request;
+    request.Hooks.PumpEvents = [&] {
         EXPECT_EQ(bar.Min, 0);
         EXPECT_EQ(bar.Max, 5);
         values.push_back(bar.Value);
     };
-    RemoveOverFile(SoundFile(3 * 8000 + 17), quality, &bar, hooks);
+    request.Hooks.Bar = &bar;
+    RemoveOverFile(SoundFile(3 * 8000 + 17), quality, request);
     EXPECT_EQ(values, (std::vector<std::int32_t>{1, 2, 3, 5}));
+    bar = {5, 6, 7};
+    RemoveOverFile(folder / "song.wav", quality, &bar);
+    EXPECT_EQ(bar.Value, 5);
+    EXPECT_EQ(bar.Max, 5);
 }
 
 TEST_F(RemoveOverFileTest, ACancelTakesEffectAtTheEndOfTheSecondAndLeavesNothingBehind)
@@ -190,10 +195,10 @@ TEST_F(RemoveOverFileTest, ACancelTakesEffectAtTheEndOfTheSecondAndLeavesNothing
     for (const int seconds : {1, 3}) {
         int asked = 0;
         int pumped = 0;
-        OverFilterHooks hooks;
-        hooks.CancelRequested = [&] { return ++asked == seconds; };
-        hooks.PumpEvents = [&] { ++pumped; };
-        EXPECT_EQ(RemoveOverFile(path, quality, nullptr, hooks), "");
+        OverFilterRequest request;
+        request.Hooks.CancelRequested = [&] { return ++asked == seconds; };
+        request.Hooks.PumpEvents = [&] { ++pumped; };
+        EXPECT_EQ(RemoveOverFile(path, quality, request), "");
         EXPECT_EQ(asked, seconds);
         EXPECT_EQ(pumped, seconds - 1);
         EXPECT_FALSE(std::filesystem::exists(result));

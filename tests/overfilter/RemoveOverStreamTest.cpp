@@ -26,10 +26,10 @@ protected:
     }
 
     OverFilterReport Run(OverFilterLength length = OverFilterLength::Delayed,
-                         OverFilterHooks hooks = {})
+                         OverFilterRequest request = {})
     {
-        hooks.Random = Ramp();
-        return RemoveOverStream(source, target, length, hooks);
+        request.Random = Ramp();
+        return RemoveOverStream(source, target, length, request);
     }
 
     /// The run ends in this error and there is no target.
@@ -59,9 +59,9 @@ TEST_F(RemoveOverStreamTest, WritesTheBytesOfRemoveOverFile)
                     folder.Write("in.wav", FileOf(sound));
                     folder.Write("out.wav", "an older file");
                     std::int16_t quality = 0;
-                    OverFilterHooks hooks;
-                    hooks.Random = Ramp();
-                    const std::string whole = RemoveOverFile(source, quality, nullptr, hooks);
+                    OverFilterRequest request;
+                    request.Random = Ramp();
+                    const std::string whole = RemoveOverFile(source, quality, request);
                     const OverFilterReport report = Run();
                     EXPECT_EQ(report.end, End::Complete);
                     EXPECT_EQ(report.QualityGood, quality);
@@ -110,15 +110,15 @@ TEST_F(RemoveOverStreamTest, ReportsWhatTheFilterDid)
     folder.Write("in.wav", FileOf(sound));
     std::int64_t seen = 0;
     std::int64_t last_start = 0;
-    OverFilterHooks hooks;
-    hooks.OnRegion = [&](const RebuiltRegion& region) {
+    OverFilterRequest request;
+    request.OnRegion = [&](const RebuiltRegion& region) {
         ++seen;
         EXPECT_GT(region.start, last_start);
         last_start = region.start;
         const auto first = static_cast<std::size_t>(region.start - 1);
         EXPECT_GT(region.sign * sound.Sample(first), 0.8);
     };
-    const OverFilterReport report = Run(OverFilterLength::Delayed, hooks);
+    const OverFilterReport report = Run(OverFilterLength::Delayed, request);
     EXPECT_EQ(report.figures.rebuilt, seen);
     EXPECT_GT(seen, 10);
     EXPECT_GT(report.figures.largest_gain, 1.0);
@@ -133,10 +133,10 @@ TEST_F(RemoveOverStreamTest, ProgressGoesOverTheSecondsAndTwoStepsMore)
     folder.Write("in.wav", FileOf(SourceOf(noise, 2, 16, 8000, 2 * 8000 + 1, 1.0)));
     ProgressBar bar;
     std::vector<std::int32_t> values;
-    OverFilterHooks hooks;
-    hooks.Bar = &bar;
-    hooks.PumpEvents = [&] { values.push_back(bar.Value); };
-    Run(OverFilterLength::Delayed, hooks);
+    OverFilterRequest request;
+    request.Hooks.Bar = &bar;
+    request.Hooks.PumpEvents = [&] { values.push_back(bar.Value); };
+    Run(OverFilterLength::Delayed, request);
     EXPECT_EQ(bar.Max, 4);
     EXPECT_EQ(values, (std::vector<std::int32_t>{1, 2, 4}));
 }
@@ -145,9 +145,9 @@ TEST_F(RemoveOverStreamTest, ACancelLeavesNoTarget)
 {
     folder.Write("in.wav", FileOf(SourceOf(noise, 2, 16, 8000, 30000, 1.0)));
     folder.Write("out.wav", "an older file");
-    OverFilterHooks hooks;
-    hooks.CancelRequested = [] { return true; };
-    EXPECT_EQ(Run(OverFilterLength::Kept, hooks).end, End::Cancelled);
+    OverFilterRequest request;
+    request.Hooks.CancelRequested = [] { return true; };
+    EXPECT_EQ(Run(OverFilterLength::Kept, request).end, End::Cancelled);
     EXPECT_FALSE(std::filesystem::exists(target));
 }
 
@@ -202,11 +202,12 @@ TEST_F(RemoveOverStreamTest, ASourceThatIsCutDownOnTheWayReadsAsZerosFromThere)
 {
     Source sound = SourceOf(noise, 1, 16, 8000, 5 * 8000, 0.7);
     folder.Write("in.wav", FileOf(sound));
-    OverFilterHooks hooks;
-    hooks.PumpEvents = [&, cut = false]() mutable {
+    OverFilterRequest request;
+    request.Hooks.PumpEvents = [&, cut = false]() mutable {
         if (!std::exchange(cut, true)) std::filesystem::resize_file(source, 44 + 2 * 20000);
     };
-    EXPECT_EQ(Run(OverFilterLength::Delayed, hooks).end, End::Complete);
+    const OverFilterReport report = Run(OverFilterLength::Delayed, request);
+    EXPECT_EQ(report.end, End::Complete);
     std::fill(sound.numbers.begin() + 20000, sound.numbers.end(), 0);
     EXPECT_TRUE(BytesOf(target) == ExpectedOf(sound).file);
 }
