@@ -2,7 +2,6 @@
 
 #include "base/Numbers.h"
 
-#include <algorithm>
 #include <cstdint>
 
 namespace lumora {
@@ -15,15 +14,6 @@ inline constexpr std::int32_t kBlocksPerChunk = 145;
 inline std::int16_t FrameLength(std::int32_t rate_hz)
 {
     return CInt(static_cast<double>(CLng(std::int64_t{rate_hz} * 220)) / 22050.0);
-}
-
-/// Values of one chunk of the highest count of channels served. A header may promise this much
-/// more than its file holds; beyond it the promise is not worth the memory.
-inline std::int64_t MostMissingValues(std::int32_t rate_hz)
-{
-    constexpr std::int64_t kHighestRate = 820510; // its block is the longest that the core takes
-    const std::int64_t rate = std::clamp<std::int64_t>(rate_hz, 0, kHighestRate);
-    return std::int64_t{2} * kBlocksPerChunk * (rate * 220 / 22050 + 1);
 }
 
 } // namespace lumora

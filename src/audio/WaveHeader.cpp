@@ -137,13 +137,17 @@ WaveInfo ReadHeader(FileNumber File, MessageForm Form)
     return info;
 }
 
+WaveInfo ReadStreamHeader(FileNumber File)
+{
+    WaveInfo info = ReadHeader(File, MessageForm::Titled);
+    if (info.Message.empty()) info.TotalSamples = CountedSamples(info);
+    return info;
+}
+
 WaveInfo ReadWaveInfo(const std::string& FileName)
 {
     const OpenFile file(open_wav(FileName));
-    if (file.Failed()) return {};
-    WaveInfo info = ReadHeader(file.Number(), MessageForm::Titled);
-    if (info.Message.empty()) info.TotalSamples = CountedSamples(info);
-    return info;
+    return file.Failed() ? WaveInfo{} : ReadStreamHeader(file.Number());
 }
 
 } // namespace lumora

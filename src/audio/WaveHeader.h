@@ -10,4 +10,8 @@ namespace lumora {
 /// Errors 6 (the data would end beyond 2 GiB), 63.
 WaveInfo ReadHeader(FileNumber File, MessageForm Form);
 
+/// What ReadWaveInfo answers, of an open file from its first byte on: ReadHeader with its messages
+/// titled, and TotalSamples counted from the data size. Errors 6, 11, 63.
+WaveInfo ReadStreamHeader(FileNumber File);
+
 } // namespace lumora

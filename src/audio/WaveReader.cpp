@@ -1,83 +1,42 @@
-#include "audio/FrameRule.h"
-#include "audio/SampleConversion.h"
-#include "audio/WaveChunks.h"
+#include "audio/WaveSource.h"
 #include "audio/WaveStream.h"
-#include "base/Numbers.h"
 
 #include <algorithm>
-#include <array>
+#include <cstdlib>
 #include <span>
 
 namespace lumora {
 
 namespace {
 
-/// The part of a file that a call asks for.
-struct FrameRange {
-    WaveInfo info;
-    std::int64_t first = 1;
-    std::int64_t count = 0; ///< 0: nothing to read
-
-    FrameRange(const std::string& file_name, std::optional<std::int64_t> First,
-               std::optional<std::int64_t> Last)
-        : info(ReadWaveInfo(file_name))
-    {
-        const std::int64_t total = info.TotalSamples;
-        if (!info.Message.empty() || total < 1) return;
-        first = std::clamp(First.value_or(1), std::int64_t{1}, total);
-        std::int64_t last = std::clamp(Last.value_or(total), std::int64_t{1}, total);
-        if (last < first) std::swap(first, last);
-        count = last - first + 1;
-    }
-
-    bool HasBits(std::int16_t bits) const { return count > 0 && info.nBitsPerSample == bits; }
-    std::int64_t Channels() const { return info.nChannels; }
-    std::int64_t Elements() const { return count * Channels(); }
-    std::int64_t Position() const
-    {
-        return info.DataStart + (first - 1) * (info.nBitsPerSample * Channels() / 8);
-    }
-};
-
-template <class T> void Shape(Array<T>& array, const FrameRange& range)
+/// The frames that a call asks for: held within the file, ends exchanged where they are the wrong
+/// way round.
+FrameRange AskedFor(const WaveInfo& info, std::optional<std::int64_t> First,
+                    std::optional<std::int64_t> Last)
 {
-    if (range.Channels() == 1)
-        array.ReDimForOverwrite({1, range.count});
-    else
-        array.ReDimForOverwrite({1, range.Channels()}, {1, range.count});
+    const std::int64_t total = info.TotalSamples;
+    const std::int64_t first = std::clamp<std::int64_t>(First.value_or(1), 1, total);
+    const std::int64_t last = std::clamp<std::int64_t>(Last.value_or(total), 1, total);
+    return {std::min(first, last), std::abs(last - first) + 1};
 }
 
-/// One reading of a range: opens, stands at the first frame, and hands out elements in file order.
-template <class Raw> class RangeReader {
-public:
-    RangeReader(const std::string& file_name, const FrameRange& range) : file_(open_wav(file_name))
-    {
-        const std::int64_t there =
-            std::max<std::int64_t>(FileLength(file_.Number()) - range.Position() + 1, 0);
-        if (range.Elements() - there / std::int64_t{sizeof(Raw)} >
-            MostMissingValues(range.info.nSamplesPerSec))
-            Raise(ErrorNumber::OutOfMemory, file_name);
-        SeekTo(file_.Number(), range.Position());
-    }
-
-    /// What the file does not hold is zero.
-    void Read(std::span<Raw> values)
-    {
-        const auto bytes = std::as_writable_bytes(values);
-        const std::size_t read = ReadBytes(file_.Number(), bytes);
-        std::fill(bytes.begin() + static_cast<std::ptrdiff_t>(read), bytes.end(), std::byte{0});
-    }
-
-private:
-    OpenFile file_;
-};
-
-template <class Raw>
-void ReadRaw(const std::string& file_name, const FrameRange& range, Array<Raw>& values)
+template <class T> void Shape(Array<T>& array, std::int64_t channels, std::int64_t frames)
 {
-    RangeReader<Raw> reader(file_name, range);
-    Shape(values, range);
-    reader.Read(values.Span());
+    if (channels == 1)
+        array.ReDimForOverwrite({1, frames});
+    else
+        array.ReDimForOverwrite({1, channels}, {1, frames});
+}
+
+/// Fills an array with a range of a source that has frames.
+template <class T>
+void ReadRange(WaveSource& source, Array<T>& values, std::optional<std::int64_t> First,
+               std::optional<std::int64_t> Last)
+{
+    const FrameRange range = AskedFor(source.Info(), First, Last);
+    source.CheckHeld(range);
+    Shape(values, source.Info().nChannels, range.count);
+    source.Read(range.first, values.Span());
 }
 
 /// Channels beyond the second are not served: they read as zero.
@@ -87,48 +46,32 @@ void SilenceFurtherChannels(std::span<double> samples, std::size_t channels)
         std::fill_n(samples.data() + frame + 2, channels - 2, 0.0);
 }
 
-template <class Raw>
-void ReadConverted(const std::string& file_name, const FrameRange& range, Array<double>& samples)
-{
-    RangeReader<Raw> reader(file_name, range);
-    Shape(samples, range);
-    // Pieces that stay in the nearest cache between reading and conversion.
-    std::array<Raw, 8192> piece;
-    std::span<double> rest = samples.Span();
-    while (!rest.empty()) {
-        const std::span<Raw> raw = std::span(piece).first(std::min(piece.size(), rest.size()));
-        reader.Read(raw);
-        Convert(std::span<const Raw>(raw), rest.first(raw.size()));
-        rest = rest.subspan(raw.size());
-    }
-    if (range.Channels() > 2)
-        SilenceFurtherChannels(samples.Span(), static_cast<std::size_t>(range.Channels()));
-}
-
 } // namespace
 
 void ReadWaveSamples(const std::string& FileName, Array<double>& Samples,
                      std::optional<std::int64_t> First, std::optional<std::int64_t> Last)
 {
-    const FrameRange range(FileName, First, Last);
-    if (range.HasBits(16))
-        ReadConverted<std::int16_t>(FileName, range, Samples);
-    else if (range.HasBits(8))
-        ReadConverted<std::uint8_t>(FileName, range, Samples);
+    WaveSource source(FileName);
+    if (!source.HasFrames()) return;
+    ReadRange(source, Samples, First, Last);
+    if (source.Info().nChannels > 2)
+        SilenceFurtherChannels(Samples.Span(), static_cast<std::size_t>(source.Info().nChannels));
 }
 
 void ReadWaveBytes(const std::string& FileName, Array<std::uint8_t>& Bytes,
                    std::optional<std::int64_t> First, std::optional<std::int64_t> Last)
 {
-    const FrameRange range(FileName, First, Last);
-    if (range.HasBits(8)) ReadRaw(FileName, range, Bytes);
+    WaveSource source(FileName);
+    if (source.HasFrames() && source.Info().nBitsPerSample == 8)
+        ReadRange(source, Bytes, First, Last);
 }
 
 void ReadWaveShorts(const std::string& FileName, Array<std::int16_t>& Shorts,
                     std::optional<std::int64_t> First, std::optional<std::int64_t> Last)
 {
-    const FrameRange range(FileName, First, Last);
-    if (range.HasBits(16)) ReadRaw(FileName, range, Shorts);
+    WaveSource source(FileName);
+    if (source.HasFrames() && source.Info().nBitsPerSample == 16)
+        ReadRange(source, Shorts, First, Last);
 }
 
 namespace {

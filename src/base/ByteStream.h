@@ -49,8 +49,11 @@ FileNumber OpenForReading(const std::string& FileName);
 /// fit).
 void fclose(FileNumber File);
 
-/// Length in bytes. Error 52.
+/// Length in bytes, as the file had it when it was opened and as this number's writes have made it
+/// since. Error 52.
 std::int64_t FileLength(FileNumber File);
+/// The length at this moment, whoever changed it. A call to the system. Error 52.
+std::int64_t FileLengthNow(FileNumber File);
 /// The position at which the next byte is read or written. Error 52.
 std::int64_t FilePosition(FileNumber File);
 /// Moves to any position from 1 up, beyond the end too. Error 63 below 1, 52.

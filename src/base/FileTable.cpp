@@ -65,6 +65,13 @@ std::int64_t FileLength(FileNumber File)
     return SlotOf(File).length;
 }
 
+std::int64_t FileLengthNow(FileNumber File)
+{
+    FileSlot& slot = SlotOf(File);
+    slot.stream_offset = -1; // the question moves the stream
+    return LengthOf(slot.stream);
+}
+
 std::int64_t FilePosition(FileNumber File)
 {
     return SlotOf(File).position;

@@ -1,6 +1,7 @@
 #include "engine/BlockPipeline.h"
 
 #include "audio/SampleConversion.h"
+#include "audio/WaveSource.h"
 #include "audio/WaveStream.h"
 #include "base/Numbers.h"
 #include "base/Paths.h"
@@ -9,8 +10,8 @@
 #include "engine/ClsWsolaQuick.h"
 
 #include <array>
-#include <optional>
 #include <span>
+#include <vector>
 
 namespace lumora {
 
@@ -32,27 +33,28 @@ public:
         : run_(run),
           resampler_(resampler),
           hooks_(hooks),
+          source_(run.InFileName),
           channels_(static_cast<std::size_t>(run.Channels))
     {
     }
 
-    void Run()
+    PitchReport Run()
     {
-        const WaveInfo info = ReadWaveInfo(run_.InFileName);
-        rate_hz_ = info.nSamplesPerSec;
-        bits_ = info.nBitsPerSample;
-        plan_ = BlockPlan::ForRate(rate_hz_);
-        chunk_count_ = CInt(DivideWhole(info.TotalSamples, plan_.ChunkLen));
+        const std::int64_t total = source_.Info().TotalSamples;
+        plan_ = BlockPlan::ForRate(source_.Info().nSamplesPerSec);
+        chunk_count_ = CInt(DivideWhole(total, plan_.ChunkLen));
         scale_ = Divide(1.0, run_.Q_P == 0.0 ? 1.0 : run_.Q_P);
         StartProgress();
         SetUpLines();
+        CheckSource();
         for (std::int16_t c = 1; c <= chunk_count_; ++c) {
-            const std::int64_t before = std::int64_t{c - 1} * plan_.ChunkLen;
-            Transform(before + 1, before + plan_.ChunkLen);
+            Transform({std::int64_t{c - 1} * plan_.ChunkLen + 1, plan_.ChunkLen});
             Step(c);
         }
-        Transform(std::int64_t{chunk_count_} * plan_.ChunkLen + 1, {});
+        const std::int64_t before = std::int64_t{chunk_count_} * plan_.ChunkLen;
+        Transform({before + 1, total - before});
         EndProgress();
+        return {source_.HasShrunk()};
     }
 
 private:
@@ -66,46 +68,30 @@ private:
         }
     }
 
-    /// Reads samples times 32768. Other widths than 8 and 16 bits are no samples: the array stays
-    /// without shape, and the first look at it fails.
-    void Read(std::int64_t first, std::optional<std::int64_t> last)
+    void CheckSource() const
     {
-        if (bits_ == 8) {
-            ReadWaveBytes(run_.InFileName, bytes_, first, last);
-            ShapeLike(bytes_, samples_);
-            ShortsFromBytes(bytes_.Span(), samples_.Span());
-        } else {
-            ReadWaveShorts(run_.InFileName, samples_, first, last);
-        }
+        source_.CheckHeld(source_.AllFrames());
+        if (static_cast<std::size_t>(source_.Info().nChannels) != channels_)
+            Raise(ErrorNumber::Subscript, run_.InFileName);
     }
 
-    /// Reads a range of samples, runs its whole blocks and writes them. Only the tail of a file is
-    /// not made of whole blocks; what is left over is dropped.
-    void Transform(std::int64_t first, std::optional<std::int64_t> last)
+    /// Reads the whole blocks of a range, runs them and writes them. Only the tail of a file is not
+    /// made of whole blocks; what is left over is dropped.
+    void Transform(const FrameRange& range)
     {
-        Read(first, last);
-        const bool stereo = channels_ == 2;
-        const std::int64_t there = samples_.Dimensions() == 1 ? 1 : samples_.UBound(1);
-        if (there != static_cast<std::int64_t>(channels_)) Raise(ErrorNumber::Subscript);
-        const std::int64_t length = samples_.UBound(stereo ? 2 : 1);
-        const std::int64_t blocks = length / plan_.BlockLen;
+        const std::int64_t blocks = range.count / plan_.BlockLen;
         if (blocks == 0) {
             // Ending well with nothing written would pass an older file off as the result.
             if (!written_) Raise(ErrorNumber::Subscript, run_.InFileName);
             return;
         }
-        ShapeOutput(blocks * plan_.BlockLen);
+        const std::int64_t frames = blocks * plan_.BlockLen;
+        samples_.resize(static_cast<std::size_t>(frames) * channels_);
+        source_.Read(range.first, std::span(samples_));
+        ShapeOutput(frames);
         for (std::int64_t j = 0; j < blocks; ++j)
             TransformBlock(j);
         Write();
-    }
-
-    static void ShapeLike(const Array<std::uint8_t>& model, Array<std::int16_t>& array)
-    {
-        if (model.Dimensions() == 2)
-            array.ReDimForOverwrite({1, model.UBound(1)}, {1, model.UBound(2)});
-        else
-            array.ReDimForOverwrite({1, model.UBound()});
     }
 
     void ShapeOutput(std::int64_t length)
@@ -120,7 +106,8 @@ private:
     {
         const std::size_t block_values = static_cast<std::size_t>(plan_.BlockLen) * channels_;
         const std::size_t start = static_cast<std::size_t>(j) * block_values;
-        const std::span<const std::int16_t> block = samples_.Span().subspan(start, block_values);
+        const std::span<const std::int16_t> block =
+            std::span(samples_).subspan(start, block_values);
         for (std::size_t channel = 0; channel < channels_; ++channel)
             TransformChannel(lines_[channel], block.subspan(channel));
         const std::span<std::int16_t> shorts = output_.Span().subspan(start, block_values);
@@ -148,7 +135,7 @@ private:
         if (written_)
             AppendWave(output_, run_.OutFileName);
         else
-            WriteNewWave(output_, rate_hz_, run_.OutFileName);
+            WriteNewWave(output_, source_.Info().nSamplesPerSec, run_.OutFileName);
         written_ = true;
     }
 
@@ -178,27 +165,25 @@ private:
     const RunHooks& hooks_;
     const EngineKernels& kernels_ = EngineKernelsFor(WidestVectors());
 
+    WaveSource source_;
     std::size_t channels_;
-    std::int32_t rate_hz_ = 0;
-    std::int16_t bits_ = 0;
     BlockPlan plan_;
     std::int16_t chunk_count_ = 0;
     double scale_ = 1.0;
     bool written_ = false;
 
     std::array<ChannelLine, kMostChannels> lines_;
-    Array<std::uint8_t> bytes_;
-    Array<std::int16_t> samples_;
+    std::vector<std::int16_t> samples_; ///< of a chunk, times 32768, interleaved
     Array<std::int16_t> output_;
 };
 
 } // namespace
 
-void RunBlockPipeline(const PitchRun& run, BlockResampler& resampler, const RunHooks& hooks)
+PitchReport RunBlockPipeline(const PitchRun& run, BlockResampler& resampler, const RunHooks& hooks)
 {
     if (run.Channels < 1 || run.Channels > int{kMostChannels}) Raise(ErrorNumber::InvalidCall);
-    if (run.InFileName.empty() || !FileExists(run.InFileName)) return;
-    Pipeline(run, resampler, hooks).Run();
+    if (run.InFileName.empty() || !FileExists(run.InFileName)) return {};
+    return Pipeline(run, resampler, hooks).Run();
 }
 
 } // namespace lumora

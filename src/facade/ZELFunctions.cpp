@@ -75,8 +75,10 @@ void ZELFunctions::Run(ProgressBar& bar, int channels)
     if (InFileName.empty() || !FileExists(InFileName)) return;
     if (Q_P == 0.0) Q_P = 1.0;
     NotePersent = 0;
+    input_has_shrunk_ = false;
     const RunHooks hooks{&bar, PumpEvents, PublishPercent};
-    RunBlockPipeline({InFileName, OutFileName, Q_P, channels}, ProcessResampler(), hooks);
+    const PitchRun run{InFileName, OutFileName, Q_P, channels};
+    input_has_shrunk_ = RunBlockPipeline(run, ProcessResampler(), hooks).source_has_shrunk;
 }
 
 void ZELFunctions::RefreshObj()
@@ -91,6 +93,7 @@ void ZELFunctions::RefreshObj()
         *field = 0;
     for (std::string* name : {&InFileName, &OutFileName, &TargetFileName})
         name->clear();
+    input_has_shrunk_ = false;
 }
 
 } // namespace lumora

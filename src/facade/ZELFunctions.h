@@ -61,12 +61,16 @@ public:
     void WsolaClsTest(ProgressBar& Bar);
     void WsolaClsTest_Stereo(ProgressBar& Bar);
 
+    /// Did the input lose bytes while the last run read it? The end of the result is no sound then.
+    bool InputHasShrunk() const { return input_has_shrunk_; }
+
     /// Every numeric field to zero, every file name empty. What a run calls stays.
     void RefreshObj();
 
 private:
     void Run(ProgressBar& bar, int channels);
 
+    bool input_has_shrunk_ = false;
     std::int16_t imitate_persent_ = 0;
 };
 

@@ -1,15 +1,12 @@
 #pragma once
 
-#include "audio/WaveRecords.h"
-#include "base/Array.h"
-#include "base/ByteStream.h"
+#include "audio/WaveSource.h"
 #include "base/Progress.h"
 #include "overfilter/ClsRemoveOverPolynom.h"
 #include "overfilter/DitherNoise.h"
 
 #include <cstdint>
 #include <functional>
-#include <memory>
 #include <span>
 #include <string>
 #include <vector>
@@ -34,14 +31,15 @@ using SampleSink = std::function<void(std::span<const double>)>;
 /// One WAVE file through the filter, in blocks of one second. Memory does not grow with its length.
 class OverFilterRun {
 public:
-    /// Reads the header and sets the filter up; `request` has to outlive the run. Errors: 9 (no
+    /// Opens the source and sets the filter up; `request` has to outlive the run. Errors: 9 (no
     /// samples; another width than 8 or 16 bits; a rate below 919 Hz), 6 (a rate above 2.46 MHz), 7
     /// (the file lacks more than 1.45 seconds of what its header promises), those of ReadWaveInfo.
     OverFilterRun(const std::string& source, const OverFilterRequest& request);
 
     /// False if there is no source or its header is faulty; a message has told so.
-    bool HasSource() const { return has_source_; }
-    const WaveInfo& Info() const { return info_; }
+    bool HasSource() const { return !source_.Failed(); }
+    bool SourceHasShrunk() const { return source_.HasShrunk(); }
+    const WaveInfo& Info() const { return source_.Info(); }
     /// 1, or 2 for anything else: of more channels the first two are taken.
     std::int32_t Channels() const { return channels_; }
     const ClsRemoveOverPolynom& Filter() const { return filter_; }
@@ -55,23 +53,17 @@ public:
     void Finish();
 
 private:
-    void CheckPromise() const;
-    void FilterRange(std::int64_t first_frame, std::int64_t frames, const SampleSink& sink);
-    void Read(std::int64_t first_frame, std::span<double> samples);
-    template <class Raw>
-    void ReadAs(Array<Raw>& raw, std::int64_t first_frame, std::span<double> samples);
+    void FilterRange(const FrameRange& range, const SampleSink& sink);
+    void Read(const FrameRange& range);
     void Dither(std::span<double> samples);
 
     const OverFilterRequest& request_;
     DitherNoise own_noise_;
-    WaveInfo info_;
-    bool has_source_ = false;
+    WaveSource source_;
     std::int32_t channels_ = 0;
-    std::unique_ptr<OpenFile> file_;
     ClsRemoveOverPolynom filter_;
-    Array<std::uint8_t> bytes_;
-    Array<std::int16_t> shorts_;
     std::vector<double> block_;
+    std::vector<double> all_channels_; ///< of a block, where the source has more than are taken
 };
 
 } // namespace lumora

@@ -1,15 +1,12 @@
 #include "overfilter/RemoveOverStream.h"
 
 #include "audio/SampleConversion.h"
-#include "audio/WaveChunks.h"
 #include "audio/WaveFields.h"
 #include "audio/WaveMessages.h"
 #include "base/Messages.h"
 #include "overfilter/RemoveUnlessKept.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <system_error>
 
 namespace lumora {
 
@@ -80,9 +77,7 @@ bool RunInto(TargetWriter& target, OverFilterRun& run, OverFilterLength length,
 OverFilterReport RemoveOverStream(const std::string& SourcePath, const std::string& TargetPath,
                                   OverFilterLength Length, const OverFilterRequest& Request)
 {
-    std::error_code ignored;
-    if (std::filesystem::equivalent(WaveFileName(SourcePath), TargetPath, ignored))
-        Raise(ErrorNumber::PathFileAccess, TargetPath);
+    RefuseSourceAsTarget(SourcePath, TargetPath);
     OverFilterReport report;
     OverFilterRun run(SourcePath, Request);
     if (!run.HasSource()) return report;
@@ -99,6 +94,7 @@ OverFilterReport RemoveOverStream(const std::string& SourcePath, const std::stri
     report.QualityGood = run.Filter().QualityGood(); // the silence at the end counts too
     report.figures = run.Filter().Figures();
     report.regions_behind = run.Filter().Waiting();
+    report.source_has_shrunk = run.SourceHasShrunk();
     if (!complete) return report;
     file.Close();
     half_written.Keep();

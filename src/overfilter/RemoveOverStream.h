@@ -28,6 +28,8 @@ struct OverFilterReport {
     /// Regions in the last BufferLen - 1 samples of the source, which do not come out where it is
     /// Delayed.
     std::int64_t regions_behind = 0;
+    /// The source was cut down while the run read it: bytes behind its new end may count as zeros.
+    bool source_has_shrunk = false;
 };
 
 /// RemoveOverFile with memory that does not grow with the length: each second of sound is written

@@ -33,6 +33,7 @@ TEST(FileNumber, ThatIsNotOpenIsError52ForEveryRoutine)
     } routines[] = {
         {"fclose", [](FileNumber n) { fclose(n); }},
         {"FileLength", [](FileNumber n) { FileLength(n); }},
+        {"FileLengthNow", [](FileNumber n) { FileLengthNow(n); }},
         {"FilePosition", [](FileNumber n) { FilePosition(n); }},
         {"SeekTo", [](FileNumber n) { SeekTo(n, 1); }},
         {"fseek", [](FileNumber n) { fseek(n, 1, "seek_set"); }},

@@ -121,6 +121,33 @@ TEST_F(BlockPipelineFaults, MoreChunksThanSixteenBitsCountOverflow)
     EXPECT_FALSE(Written());
 }
 
+TEST_F(BlockPipelineFaults, AHeaderThatPromisesFarTooMuchFailsBeforeAnythingIsWritten)
+{
+    // A chunk of two channels at 2206 Hz: 2 x 145 x 23 values, a block rounded up.
+    constexpr std::int64_t kMost = 2 * 145 * 23;
+    for (const int bits : {8, 16}) {
+        const std::int64_t bytes = kMost * bits / 8;
+        const std::string data(1000, '\1');
+        const test::FormatSpec spec{1, bits, 2206};
+        EXPECT_EQ(Raised(PlainWave(spec, data, 1000 + bytes + 2)), 7) << bits;
+        EXPECT_EQ(Raised(PlainWave(spec, data, 100000000 * bits / 8)), 7) << bits;
+        EXPECT_FALSE(Written());
+        EXPECT_EQ(Raised(PlainWave(spec, data, 1000 + bytes)), 0) << bits;
+        std::filesystem::remove(out);
+    }
+    EXPECT_EQ(messages.shown, test::Shown{});
+}
+
+TEST_F(BlockPipelineFaults, AFaultyHeaderFailsBehindOneMessage)
+{
+    const std::string head = Wave(test::FormatChunk({1, 16, 22050})); // no data chunk
+    EXPECT_EQ(Raised(head), kSubscript);
+    EXPECT_EQ(messages.Take(), test::Shown{test::FileError(
+                                   "Error using read_ckinfo",
+                                   "Truncated chunk header found -possibly not a WAV file")});
+    EXPECT_FALSE(Written());
+}
+
 TEST_F(BlockPipelineFaults, ATargetThatCannotBeOpenedIsToldOnEachWrite)
 {
     const std::string in = folder.Write("in.wav", Mono(2206, 3190 + 100));

@@ -7,6 +7,7 @@
 #include "support/MessageRecorder.h"
 #include "support/TempFolder.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
@@ -30,7 +31,7 @@ protected:
     SoundFile Run(const std::string& bytes, double Q_P, int channels, const RunHooks& hooks = {})
     {
         const std::string in = folder.Write("in.wav", bytes);
-        RunBlockPipeline({in, out, Q_P, channels}, resampler, hooks);
+        report = RunBlockPipeline({in, out, Q_P, channels}, resampler, hooks);
         return test::ParseSoundFile(test::BytesOf(out));
     }
 
@@ -68,6 +69,7 @@ protected:
     test::TempFolder folder;
     test::MessageRecorder messages;
     BlockResampler resampler;
+    PitchReport report; ///< of the last Run
     const std::string out = folder / "out.wav";
 };
 
@@ -262,6 +264,39 @@ TEST_F(BlockPipelineRun, LeavesAValidFileBetweenChunks)
                                             begin, begin + static_cast<std::ptrdiff_t>(length)));
         }
     }
+}
+
+TEST_F(BlockPipelineRun, ReadsASourceThatIsRemovedOrReplacedOnTheWayAsItWas)
+{
+    const Sound sound = Music(2, 3 * kLowChunk + 500, kLowRate);
+    PlainResampler plain;
+    const Sound expected = test::PlainRun(sound, kLowRate, 0.8, plain);
+    const std::string in = folder / "in.wav";
+    for (const bool replace : {false, true}) {
+        RunHooks hooks;
+        hooks.PumpEvents = [&] {
+            std::filesystem::remove(in);
+            if (replace) folder.Write("in.wav", "another file");
+        };
+        resampler = BlockResampler();
+        EXPECT_EQ(Run(test::FileOf(sound, kLowRate), 0.8, 2, hooks).sound, expected);
+        EXPECT_FALSE(report.source_has_shrunk);
+    }
+    EXPECT_EQ(messages.shown, test::Shown{});
+}
+
+TEST_F(BlockPipelineRun, ReadsASourceThatIsCutDownOnTheWayAsZerosAndTellsIt)
+{
+    Sound sound = Music(1, 3 * kLowChunk + 500, kLowRate);
+    const std::size_t left = 2 * kLowChunk + 100;
+    RunHooks hooks;
+    hooks.PumpEvents = [&] { std::filesystem::resize_file(folder / "in.wav", 44 + 2 * left); };
+    const SoundFile result = Run(test::FileOf(sound, kLowRate), 0.8, 1, hooks);
+    EXPECT_TRUE(report.source_has_shrunk);
+    std::fill(sound[0].begin() + static_cast<std::ptrdiff_t>(left), sound[0].end(),
+              std::int16_t{0});
+    PlainResampler plain;
+    EXPECT_EQ(result.sound, test::PlainRun(sound, kLowRate, 0.8, plain));
 }
 
 TEST_F(BlockPipelineRun, DoesNotAskWhetherItIsCancelled)

@@ -225,6 +225,20 @@ TEST_F(Facade, RunsDirectlyWithoutAMessage)
     EXPECT_EQ(Written().size(), 2U);
 }
 
+TEST_F(Facade, TellsWhetherTheInputOfTheLastRunLostBytes)
+{
+    ZELFunctions object;
+    object.InFileName = folder.Write("in.wav", test::FileOf(Music(1, 5000), kRate));
+    object.OutFileName = out;
+    EXPECT_EQ(object.On_Note(bar), 0);
+    EXPECT_FALSE(object.InputHasShrunk());
+    object.PumpEvents = [&] { fs::resize_file(object.InFileName, 9000); };
+    EXPECT_EQ(object.On_Note(bar), 0);
+    EXPECT_TRUE(object.InputHasShrunk());
+    EXPECT_EQ(object.On_Note(bar), 0); // short from the start, and as short at the end
+    EXPECT_FALSE(object.InputHasShrunk());
+}
+
 TEST_F(Facade, DeletesTheWavesOfFourFoldersAtItsEnd)
 {
     for (const char* name : {"PsolaTrans", "lpctrans", "ON_NOTE", "Synthsize", "Other"}) {

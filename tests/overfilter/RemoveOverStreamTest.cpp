@@ -208,8 +208,37 @@ TEST_F(RemoveOverStreamTest, ASourceThatIsCutDownOnTheWayReadsAsZerosFromThere)
     };
     const OverFilterReport report = Run(OverFilterLength::Delayed, request);
     EXPECT_EQ(report.end, End::Complete);
+    EXPECT_TRUE(report.source_has_shrunk);
     std::fill(sound.numbers.begin() + 20000, sound.numbers.end(), 0);
     EXPECT_TRUE(BytesOf(target) == ExpectedOf(sound).file);
+}
+
+TEST_F(RemoveOverStreamTest, ASourceThatIsRemovedOrReplacedOnTheWayIsReadOnAsItWas)
+{
+    const Source sound = SourceOf(noise, 2, 16, 8000, 5 * 8000, 2.0);
+    for (const bool replace : {false, true}) {
+        folder.Write("in.wav", FileOf(sound));
+        OverFilterRequest request;
+        request.Hooks.PumpEvents = [&] {
+            std::filesystem::remove(source);
+            if (replace) folder.Write("in.wav", "another file");
+        };
+        const OverFilterReport report = Run(OverFilterLength::Delayed, request);
+        EXPECT_EQ(report.end, End::Complete);
+        EXPECT_FALSE(report.source_has_shrunk);
+        EXPECT_TRUE(BytesOf(target) == ExpectedOf(sound).file);
+    }
+}
+
+TEST_F(RemoveOverStreamTest, OfAFrameThatTheFileHoldsInPartWhatIsThereCounts)
+{
+    Source sound = SourceOf(noise, 2, 16, 8000, 500, 0.5);
+    std::string bytes = FileOf(sound);
+    bytes.resize(bytes.size() - 3 * 4 - 2); // three frames and the right of the one before
+    folder.Write("in.wav", bytes);
+    Run(OverFilterLength::Kept); // the end comes out
+    std::fill(sound.numbers.end() - 7, sound.numbers.end(), 0);
+    EXPECT_TRUE(BytesOf(target) == ExpectedOf(sound, true).file);
 }
 
 } // namespace
