@@ -183,6 +183,7 @@ PitchReport RunBlockPipeline(const PitchRun& run, BlockResampler& resampler, con
 {
     if (run.Channels < 1 || run.Channels > int{kMostChannels}) Raise(ErrorNumber::InvalidCall);
     if (run.InFileName.empty() || !FileExists(run.InFileName)) return {};
+    RefuseSourceAsTarget(run.InFileName, run.OutFileName);
     return Pipeline(run, resampler, hooks).Run();
 }
 

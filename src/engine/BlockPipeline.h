@@ -30,7 +30,7 @@ struct PitchReport {
 /// The resampler's one surviving sample goes from run to run: a run that must not depend on the one
 /// before takes a fresh BlockResampler.
 ///
-/// Errors: 5 for Channels other than 1 or 2; 9
+/// Errors: 5 for Channels other than 1 or 2; 75 where the output is the input, by whatever name; 9
 /// for a file shorter than one block (nothing is written), for a faulty header (behind its
 /// message), for a width other than 8 or 16 bits, for channels that differ from the file's, and for
 /// a scale 1 / Q_P above 2.0; 6 or 11 for a rate outside 2206 to 820,510 Hz; 7 where the file lacks

@@ -148,6 +148,22 @@ TEST_F(BlockPipelineFaults, AFaultyHeaderFailsBehindOneMessage)
     EXPECT_FALSE(Written());
 }
 
+TEST_F(BlockPipelineFaults, TheSourceIsNoTarget)
+{
+    const std::string bytes = Mono(22050, 2000);
+    const std::string in = folder.Write("in.wav", bytes);
+    std::filesystem::create_symlink(in, folder / "symbolic.wav");
+    std::filesystem::create_hard_link(in, folder / "hard.wav");
+    BlockResampler resampler;
+    for (const char* name : {"in.wav", "symbolic.wav", "hard.wav", "./in.wav"}) {
+        const PitchRun run{in, folder / name, 0.8, 1};
+        EXPECT_EQ(test::Raised([&] { RunBlockPipeline(run, resampler, {}); }), 75) << name;
+        EXPECT_EQ(test::BytesOf(in), bytes) << name;
+    }
+    const PitchRun copy{in, folder.Write("copy.wav", bytes), 0.8, 1};
+    EXPECT_EQ(test::Raised([&] { RunBlockPipeline(copy, resampler, {}); }), 0);
+}
+
 TEST_F(BlockPipelineFaults, ATargetThatCannotBeOpenedIsToldOnEachWrite)
 {
     const std::string in = folder.Write("in.wav", Mono(2206, 3190 + 100));

@@ -225,6 +225,40 @@ TEST_F(Facade, RunsDirectlyWithoutAMessage)
     EXPECT_EQ(Written().size(), 2U);
 }
 
+TEST_F(Facade, RefusesToWriteOverItsInput)
+{
+    const std::string bytes = test::FileOf(Music(1, 440), kRate);
+    const std::string in = folder.Write("in.wav", bytes);
+    fs::create_hard_link(in, folder / "same.wav");
+    for (const std::string& name : {in, folder / "same.wav"}) {
+        ZELFunctions object;
+        object.InFileName = in;
+        object.OutFileName = name;
+        EXPECT_EQ(test::Raised([&] { object.On_Note(bar); }), 75) << name;
+        EXPECT_EQ(test::BytesOf(in), bytes) << name;
+    }
+    EXPECT_EQ(messages.shown, test::Shown{});
+}
+
+TEST_F(Facade, TakesItsInputForTheFileThatTheReaderOpens)
+{
+    // The reader adds ".wav" to a name without a dot, the writer adds nothing.
+    const std::string bytes = test::FileOf(Music(1, 440), kRate);
+    folder.Write("song.wav", bytes);
+    folder.Write("song", "beside it");
+    const fs::path before = fs::current_path();
+    fs::current_path(folder.Path());
+    ZELFunctions object;
+    object.InFileName = "song";
+    object.OutFileName = "song.wav";
+    EXPECT_EQ(test::Raised([&] { object.On_Note(bar); }), 75);
+    EXPECT_EQ(test::BytesOf("song.wav"), bytes);
+    object.OutFileName = "song";
+    EXPECT_EQ(test::Raised([&] { object.On_Note(bar); }), 0);
+    EXPECT_EQ(test::ParseSoundFile(test::BytesOf("song")).sound[0].size(), 440U);
+    fs::current_path(before);
+}
+
 TEST_F(Facade, TellsWhetherTheInputOfTheLastRunLostBytes)
 {
     ZELFunctions object;
