@@ -6,7 +6,7 @@ set -euo pipefail
 
 root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
 build=$root/build/bench
-cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DLUMORA_BUILD_BENCH=ON >/dev/null
+cmake -S "$root" -B "$build" --preset bench >/dev/null
 cmake --build "$build" >/dev/null
 folder=$(mktemp -d "$build/peers.XXXXXX")
 trap 'rm -rf "$folder"' EXIT

@@ -3,13 +3,12 @@
 include(CMakePackageConfigHelpers)
 set(LUMORA_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/Lumora)
 
-install(TARGETS lumora EXPORT Lumora)
+install(TARGETS lumora EXPORT Lumora
+        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/lumora)
 install(EXPORT Lumora NAMESPACE Lumora:: FILE LumoraConfig.cmake DESTINATION ${LUMORA_CMAKE_DIR})
 write_basic_package_version_file(LumoraConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/LumoraConfigVersion.cmake
         DESTINATION ${LUMORA_CMAKE_DIR})
-install(DIRECTORY src/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/lumora
-        FILES_MATCHING PATTERN "*.h")
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 if(LUMORA_BUILD_CLI)

@@ -17,7 +17,7 @@ struct ArrContents {
     std::int32_t rows = 0;
     std::int32_t columns = 0;
     Variant value;
-    std::vector<std::string> notes; ///< what the user should know besides
+    std::vector<std::string> notes = {}; ///< what the user should know besides
 
     /// The place of a cell in the order of the file. Rows and columns count from 0.
     std::size_t Place(std::int32_t row, std::int32_t column) const

@@ -3,6 +3,7 @@
 #include "audio/WaveChunks.h"
 #include "audio/Wavwrite.h"
 #include "base/Paths.h"
+#include "overfilter/OverFilterRun.h"
 #include "overfilter/RemoveUnlessKept.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "overfilter/OverFilterRun.h"
+#include "overfilter/OverFilterRequest.h"
 
 #include <cstdint>
 #include <string>
@@ -18,8 +18,8 @@ namespace lumora {
 /// solvable. QualityFlag (1 good, 0 poor) follows the filter's flag after every second of sound.
 /// The whole output stands in memory until it is written: 8 bytes a sample, and a fixed amount.
 ///
-/// A stereo sound of one or two frames is written as wavwrite takes a matrix of so few columns: with
-/// rows and columns exchanged.
+/// A stereo sound of one or two frames is written as wavwrite takes a matrix of so few columns:
+/// with rows and columns exchanged.
 ///
 /// Errors: 5 for a file name of fewer than four characters; 75 where the source is a symbolic link
 /// to the temporary file; 70, 75 where an earlier one cannot be deleted; those of OverFilterRun; 7

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "audio/WaveSource.h"
-#include "base/Progress.h"
 #include "overfilter/ClsRemoveOverPolynom.h"
 #include "overfilter/DitherNoise.h"
+#include "overfilter/OverFilterRequest.h"
 
 #include <cstdint>
 #include <functional>
@@ -12,18 +12,6 @@
 #include <vector>
 
 namespace lumora {
-
-/// What goes with a run of the over-range filter. Everything may be empty.
-struct OverFilterRequest {
-    /// Bar goes over 0..whole seconds + 2. CancelRequested is asked after every whole second of
-    /// sound, and true ends the run with nothing left behind; PumpEvents is called after every
-    /// second and at the end. PublishPercent is not.
-    RunHooks Hooks = {};
-    /// Uniform random numbers in 0..1 for the dither of digital silence. Empty: DitherNoise from
-    /// its own seed, the same for every run.
-    std::function<double()> Random = {};
-    RegionObserver OnRegion = {}; ///< told of each region as it is rebuilt
-};
 
 /// Takes the samples that have left the filter, interleaved, a block a call.
 using SampleSink = std::function<void(std::span<const double>)>;

@@ -4,6 +4,7 @@
 #include "audio/WaveFields.h"
 #include "audio/WaveMessages.h"
 #include "base/Messages.h"
+#include "overfilter/OverFilterRun.h"
 #include "overfilter/RemoveUnlessKept.h"
 
 #include <algorithm>

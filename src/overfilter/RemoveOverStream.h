@@ -1,6 +1,6 @@
 #pragma once
 
-#include "overfilter/OverFilterRun.h"
+#include "overfilter/OverFilterRequest.h"
 
 #include <cstdint>
 #include <string>

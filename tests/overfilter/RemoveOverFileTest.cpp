@@ -1,6 +1,7 @@
 #include "overfilter/ModOverPolynom.h"
 
 #include "overfilter/OverFiles.h"
+#include "overfilter/OverFilterRun.h"
 #include "support/Limits.h"
 #include "support/MessageRecorder.h"
 #include "support/Raised.h"

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "base/Variant.h"
-#include "numeric/Sheets.h"
 
 namespace lumora {
+
+struct ComplexValue;
 
 /// The smaller or larger of two values. Two numbers: the value itself, a where they are equal. A
 /// number and an object: a clsMatrix of the object's sizes, each element against the number. Two
