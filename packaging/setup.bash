@@ -85,7 +85,7 @@ build_tree() {
     shift
     (cd "$root" && set_up_tree "$tree") &&
         NINJA_STATUS=$'\1%f %t ' ninja -C "$root/build/$tree" -j 2 "$@" </dev/null 2>&1 |
-        tell_progress "$tree"
+        tell_progress
 }
 
 # Tells how far a build of ninja is, on a terminal in a line that is drawn over, elsewhere in a line
@@ -102,7 +102,7 @@ tell_progress() {
             printf '\r\e[K%s: building %s of %s' "${0##*/}" "$done_now" "$all" >&2
         elif ((done_now * 4 / all > told)); then
             told=$((done_now * 4 / all))
-            say "building $1: $done_now of $all"
+            say "building $done_now of $all"
         fi
     done
     [[ -t 2 ]] && printf '\r\e[K' >&2
