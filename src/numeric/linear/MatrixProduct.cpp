@@ -17,8 +17,8 @@ namespace {
 constexpr std::size_t kDepth = 256;
 constexpr std::size_t kColumns = 4;
 
-/// Sizes of one product, and how far its elements lie apart.
-struct Product {
+/// Sizes of one product, and where its elements lie.
+struct Factors {
     std::size_t rows;
     std::size_t depth;
     std::size_t columns;
@@ -70,7 +70,7 @@ template <class V, std::size_t kVectors, std::size_t kWide> struct Tile {
 
 /// Columns j.. of the result for one packed panel of rows.
 template <class V, std::size_t kVectors, std::size_t kWide>
-[[gnu::always_inline]] inline void RunTile(const Product& p, const double* packed, std::size_t i,
+[[gnu::always_inline]] inline void RunTile(const Factors& p, const double* packed, std::size_t i,
                                            std::size_t j, std::size_t k, std::size_t depth)
 {
     using Here = Tile<V, kVectors, kWide>;
@@ -83,7 +83,7 @@ template <class V, std::size_t kVectors, std::size_t kWide>
 }
 
 template <class V, std::size_t kVectors>
-[[gnu::always_inline]] inline void RunColumns(const Product& p, const double* packed, std::size_t i,
+[[gnu::always_inline]] inline void RunColumns(const Factors& p, const double* packed, std::size_t i,
                                               std::size_t j, std::size_t k, std::size_t depth)
 {
     const std::size_t left = p.columns - j;
@@ -100,7 +100,7 @@ template <class V, std::size_t kVectors>
 /// Panels of rows, each with its columns one behind the other; rows beyond the matrix are zero and
 /// never stored.
 template <std::size_t kRows>
-[[gnu::always_inline]] inline void Pack(const Product& p, std::size_t from, std::size_t to,
+[[gnu::always_inline]] inline void Pack(const Factors& p, std::size_t from, std::size_t to,
                                         std::size_t k, std::size_t depth, double* packed)
 {
     for (std::size_t i = from; i < to; i += kRows) {
@@ -114,7 +114,7 @@ template <std::size_t kRows>
 
 /// Block by block, each as long as it is in the caches.
 struct Blocked {
-    template <class V> [[gnu::always_inline]] static void Run(const Product& p, double* packed)
+    template <class V> [[gnu::always_inline]] static void Run(const Factors& p, double* packed)
     {
         // As many sums as the registers hold.
         constexpr std::size_t kVectors = sizeof(V) == sizeof(Two) ? 2 : 3;
@@ -134,7 +134,7 @@ struct Blocked {
 };
 constexpr std::size_t kPackedMost = kDepth * 8 * 24;
 
-Product ProductOf(const Sheet<double>& a, const Sheet<double>& b, double* result)
+Factors ProductOf(const Sheet<double>& a, const Sheet<double>& b, double* result)
 {
     return {static_cast<std::size_t>(a.rows),
             static_cast<std::size_t>(a.columns),
@@ -149,7 +149,7 @@ Product ProductOf(const Sheet<double>& a, const Sheet<double>& b, double* result
 void MatrixProduct(const Sheet<double>& a, const Sheet<double>& b, double* result,
                    VectorWidth width)
 {
-    const Product p = ProductOf(a, b, result);
+    const Factors p = ProductOf(a, b, result);
     std::fill_n(result, p.rows * p.columns, 0.0);
     std::vector<double> packed(kPackedMost);
     PerWidth<Blocked>::For(width)(p, packed.data());
