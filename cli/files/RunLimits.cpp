@@ -1,35 +1,26 @@
 #include "cli/files/RunLimits.h"
 
-#include "audio/FrameRule.h"
+#include "audio/WaveRoom.h"
 #include "cli/terminal/Wording.h"
+#include "engine/BlockPlan.h"
+#include "overfilter/OverFilterPlan.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace lumora {
 
 namespace {
 
-/// Samples of a sound for which a plain WAVE file has room: its sizes are signed 32-bit numbers of
-/// bytes, 50 of which belong to the header.
-std::int64_t MostInWaveFile(const SoundShape& sound, std::int64_t bytes_per_sample)
-{
-    return (std::numeric_limits<std::int32_t>::max() - std::int64_t{50}) /
-           (bytes_per_sample * sound.channels);
-}
-
-/// Results have 16 bits, and chunks are counted in 16 bits too.
+/// Results have 16 bits.
 std::int64_t MostToPitch(const SoundShape& sound)
 {
-    const std::int64_t chunk_len = std::int64_t{FrameLength(sound.rate_hz)} * kBlocksPerChunk;
-    const std::int64_t by_chunks =
-        (std::numeric_limits<std::int16_t>::max() + std::int64_t{1}) * chunk_len - 1;
-    return std::min(by_chunks, MostInWaveFile(sound, sizeof(std::int16_t)));
+    return std::min(BlockPlan::MostSamples(sound.rate_hz),
+                    MostFramesInWave(sound.channels, sizeof(std::int16_t)));
 }
 
 std::string TooShortToPitch(const SoundShape& sound)
 {
-    const std::int64_t least = FrameLength(sound.rate_hz);
+    const std::int64_t least = BlockPlan::LeastSamples(sound.rate_hz);
     if (sound.samples >= least) return {};
     return "it is too short: " + SamplesText(sound.samples, sound.rate_hz) + ", and at least " +
            SamplesText(least, sound.rate_hz) + ", one block, are needed";
@@ -37,22 +28,21 @@ std::string TooShortToPitch(const SoundShape& sound)
 
 std::int64_t MostToDeclip(const SoundShape& sound)
 {
-    return MostInWaveFile(sound, sound.bytes_per_sample);
+    return MostFramesInWave(sound.channels, sound.bytes_per_sample);
 }
 
 std::string TooShortToDeclip(const SoundShape& sound)
 {
-    return sound.samples > 0 ? "" : "there is not a single sample in it";
+    return sound.samples >= OverFilterPlan::kLeastSamples ? ""
+                                                          : "there is not a single sample in it";
 }
 
 } // namespace
 
-// Below the first rate a block has no coarse step, above the second its buffers pass 16-bit
-// positions.
-const RunLimits kPitchLimits = {2206, 820510, MostToPitch, TooShortToPitch};
-// Below the first rate the order of the prediction is 0, above the second the filter's buffer
-// passes 16-bit positions.
-const RunLimits kDeclipLimits = {919, 2463135, MostToDeclip, TooShortToDeclip};
+const RunLimits kPitchLimits = {BlockPlan::kLowestRate, BlockPlan::kHighestRate, MostToPitch,
+                                TooShortToPitch};
+const RunLimits kDeclipLimits = {OverFilterPlan::kLowestRate, OverFilterPlan::kHighestRate,
+                                 MostToDeclip, TooShortToDeclip};
 
 std::string LimitFaultButLength(const RunLimits& limits, const SoundShape& sound)
 {

@@ -23,7 +23,7 @@ std::int64_t MostMissingValues(std::int32_t rate_hz)
 {
     constexpr std::int64_t kHighestRate = 820510; // its block is the longest that the core takes
     const std::int64_t rate = std::clamp<std::int64_t>(rate_hz, 0, kHighestRate);
-    return std::int64_t{2} * kBlocksPerChunk * (rate * 220 / 22050 + 1);
+    return std::int64_t{2} * kBlocksPerChunk * (rate * kRuleFrame / kRuleRate + 1);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "audio/WaveFields.h"
 #include "audio/WaveMessages.h"
+#include "audio/WaveRoom.h"
 #include "audio/WaveStream.h"
 #include "base/Messages.h"
 #include "base/Numbers.h"
@@ -10,8 +11,8 @@ using namespace wave_messages;
 
 namespace {
 
-constexpr std::int64_t kHeaderBytes = 58;
-constexpr std::int32_t kRiffExtra = 50; ///< header bytes that the RIFF size counts
+/// Header bytes that the RIFF size counts.
+constexpr std::int32_t kRiffExtra = kStreamedHeaderBytes - 8;
 constexpr std::int64_t kRiffSizeAt = 5;
 constexpr std::int64_t kFactValueAt = 47;
 constexpr std::int64_t kDataSizeAt = 55;
@@ -69,7 +70,7 @@ void WriteNewWave(const Array<std::int16_t>& Samples, const std::int32_t& Rate,
         return;
     }
     // Data first, header last: a header is never half written.
-    SeekTo(file.Number(), kHeaderBytes + 1);
+    SeekTo(file.Number(), kStreamedHeaderBytes + 1);
     WriteValues(file.Number(), Samples.Span());
     SeekTo(file.Number(), 1);
     PutHeader(file.Number(), channels, Rate, data_bytes);
@@ -86,7 +87,7 @@ void AppendWave(const Array<std::int16_t>& Samples, const std::string& FileName)
         return;
     }
     const std::int64_t old_length = FileLength(file.Number());
-    const std::int32_t data_bytes = CheckedDataBytes(old_length + added - kHeaderBytes);
+    const std::int32_t data_bytes = CheckedDataBytes(old_length + added - kStreamedHeaderBytes);
     SeekTo(file.Number(), old_length + 1);
     WriteValues(file.Number(), Samples.Span());
     SeekTo(file.Number(), kRiffSizeAt);

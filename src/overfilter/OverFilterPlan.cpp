@@ -1,6 +1,5 @@
 #include "overfilter/OverFilterPlan.h"
 
-#include "audio/FrameRule.h"
 #include "base/Numbers.h"
 #include "overfilter/ClsRemoveOverPolynom.h"
 
@@ -11,7 +10,7 @@ OverFilterPlan OverFilterPlan::ForRate(std::int32_t rate_hz)
     OverFilterPlan plan;
     plan.TrainLen = FrameLength(rate_hz);
     plan.GuardLen = CInt(plan.TrainLen / 3.0);
-    plan.Order = CInt(12.0 * rate_hz / 22050.0);
+    plan.Order = CInt(double{kRuleOrder} * rate_hz / kRuleRate);
     return plan;
 }
 

@@ -1,3 +1,4 @@
+#include "audio/WaveRoom.h"
 #include "audio/WaveStream.h"
 
 #include "support/Arrays.h"
@@ -102,6 +103,28 @@ TEST_F(AppendWaveTo, OverflowsWhereASizeNoLongerFits)
     std::filesystem::resize_file(name, 0x7FFFFFFE); // a gap takes no room on the disk
     EXPECT_EQ(Raised([&] { AppendWave(Array<std::int16_t>(1000), name); }), 6);
     EXPECT_EQ(ReadWaveInfo(name).TotalSamples, 2);
+}
+
+TEST_F(AppendWaveTo, FillsAWaveFileToTheLastFrameThatItHasRoomFor)
+{
+    // The last byte may stand at 2,147,483,647, and 58 bytes are header.
+    EXPECT_EQ(MostFramesInWave(1, 2), 1073741794);
+    EXPECT_EQ(MostFramesInWave(2, 2), 536870897);
+    EXPECT_EQ(MostFramesInWave(2, 1), 1073741794);
+    for (const std::int32_t channels : {1, 2}) {
+        const std::string name = folder / "f.wav";
+        const auto frames = [&](std::int64_t count) {
+            return channels == 1 ? Array<std::int16_t>(count) : Array<std::int16_t>(2, count);
+        };
+        const std::int64_t most = MostFramesInWave(channels, 2);
+        WriteNewWave(frames(1), 8000, name);
+        std::filesystem::resize_file(name,
+                                     static_cast<std::uintmax_t>(58 + (most - 1) * 2 * channels));
+        AppendWave(frames(1), name);
+        EXPECT_EQ(ReadWaveInfo(name).TotalSamples, most);
+        AppendWave(frames(1), name);
+        EXPECT_EQ(Raised([&] { ReadWaveInfo(name); }), 6) << "one more can be written, not read";
+    }
 }
 
 } // namespace

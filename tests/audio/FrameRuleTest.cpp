@@ -26,5 +26,17 @@ TEST(FrameLength, OverflowsWhereSixteenBitsDoNotHoldIt)
         EXPECT_EQ(Raised([&] { FrameLength(rate); }), 6) << rate;
 }
 
+TEST(HighestRateOfFrame, IsTheLastWholeRateOfEveryLength)
+{
+    for (std::int32_t samples = 0; samples <= 32767; ++samples) {
+        const std::int32_t rate = HighestRateOfFrame(samples);
+        ASSERT_EQ(FrameLength(rate), samples);
+        if (samples < 32767) {
+            ASSERT_EQ(FrameLength(rate + 1), samples + 1);
+        }
+    }
+    EXPECT_EQ(HighestRateOfFrame(32767), 3284197); // 32767.498, the next 32767.508
+}
+
 } // namespace
 } // namespace lumora

@@ -1,5 +1,6 @@
 #include "engine/BlockPipeline.h"
 
+#include "engine/BlockPlan.h"
 #include "engine/BlockResampler.h"
 #include "engine/SoundFile.h"
 #include "engine/SoundKinds.h"
@@ -162,6 +163,40 @@ TEST_F(BlockPipelineFaults, TheSourceIsNoTarget)
     }
     const PitchRun copy{in, folder.Write("copy.wav", bytes), 0.8, 1};
     EXPECT_EQ(test::Raised([&] { RunBlockPipeline(copy, resampler, {}); }), 0);
+}
+
+TEST_F(BlockPipelineFaults, JustInsideTheLimitsOfThePlanARunGoesWellAndJustOutsideItFails)
+{
+    const auto least = [](std::int32_t rate_hz) {
+        return static_cast<std::size_t>(BlockPlan::LeastSamples(rate_hz));
+    };
+    for (const std::int32_t rate_hz : {BlockPlan::kLowestRate, 22050, BlockPlan::kHighestRate}) {
+        EXPECT_EQ(Raised(Mono(rate_hz, least(rate_hz))), 0) << rate_hz;
+        EXPECT_EQ(test::ParseSoundFile(test::BytesOf(out)).sound[0].size(), least(rate_hz));
+        std::filesystem::remove(out);
+        EXPECT_EQ(Raised(Mono(rate_hz, least(rate_hz) - 1)), kSubscript) << rate_hz;
+    }
+    for (const std::int32_t rate_hz : {BlockPlan::kLowestRate - 1, BlockPlan::kHighestRate + 1})
+        EXPECT_NE(Raised(Mono(rate_hz, least(rate_hz))), 0) << rate_hz;
+    EXPECT_FALSE(Written());
+}
+
+TEST_F(BlockPipelineFaults, ARunOfTheMostSamplesOfThePlanBeginsAndOneOfMoreDoesNot)
+{
+    struct Begun {};
+    RunHooks hooks;
+    hooks.PumpEvents = [] { throw Begun{}; };
+    for (const std::int32_t rate_hz : {2206, 22050}) {
+        const auto run = [&](std::int64_t frames) { // promised and not held
+            const std::string in =
+                folder.Write("in.wav", PlainWave({1, 8, rate_hz}, "abcd", frames));
+            BlockResampler resampler;
+            RunBlockPipeline({in, out, 0.8, 1}, resampler, hooks);
+        };
+        const std::int64_t most = BlockPlan::MostSamples(rate_hz);
+        EXPECT_THROW(run(most), Begun) << rate_hz;
+        EXPECT_EQ(test::Raised([&] { run(most + 1); }), kOverflow) << rate_hz;
+    }
 }
 
 TEST_F(BlockPipelineFaults, ATargetThatCannotBeOpenedIsToldOnEachWrite)

@@ -58,5 +58,16 @@ TEST(BlockPlan, RaisesWhatFallsOutBeyond)
     EXPECT_EQ(raised(2147483647), kOverflow);
 }
 
+TEST(BlockPlan, TellsWhatARunCanBeMadeOf)
+{
+    EXPECT_EQ(BlockPlan::kLowestRate, 2206);
+    EXPECT_EQ(BlockPlan::kHighestRate, 820510);
+    EXPECT_EQ(BlockPlan::LeastSamples(2206), 22);
+    EXPECT_EQ(BlockPlan::LeastSamples(22050), 220);
+    EXPECT_EQ(BlockPlan::LeastSamples(820510), 8186);
+    EXPECT_EQ(BlockPlan::MostSamples(2206), 104529919);     // 32,768 chunks of 3190, less one
+    EXPECT_EQ(BlockPlan::MostSamples(820510), 38894632959); // of 1,186,970: beyond 32 bits
+}
+
 } // namespace
 } // namespace lumora
