@@ -4,6 +4,7 @@
 #include "cli/files/FileRun.h"
 #include "cli/terminal/JobFailure.h"
 #include "cli/terminal/Wording.h"
+#include "engine/Tones.h"
 #include "facade/ZELFunctions.h"
 
 namespace lumora {
@@ -30,7 +31,7 @@ void ChangePitch(const ReadyFile& file, double quotient)
 /// What was asked for, and what the engine makes of it at this rate.
 JobSummary Summary(const PitchSetting& setting, std::int32_t rate_hz)
 {
-    const double made = setting.CentsMade(rate_hz);
+    const double made = CentsMade(setting.Q_P, rate_hz);
     const bool too_fine = setting.Q_P != 1.0 && made == 0.0;
     std::string line = setting.asked + " = " + CentsText(setting.cents_asked) + " cents, ";
     if (too_fine)

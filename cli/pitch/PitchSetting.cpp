@@ -1,9 +1,8 @@
 #include "cli/pitch/PitchSetting.h"
 
-#include "audio/FrameRule.h"
-#include "base/Numbers.h"
 #include "cli/pitch/ToneText.h"
 #include "cli/terminal/UsageError.h"
+#include "engine/Tones.h"
 
 #include <charconv>
 #include <cmath>
@@ -11,8 +10,6 @@
 namespace lumora {
 
 namespace {
-
-constexpr double kCentsPerOctave = 1200.0;
 
 struct NumberRange {
     const char* option;
@@ -50,11 +47,9 @@ PitchSetting PitchSetting::FromTones(const std::string& text)
     const int setting = ReadTones(text);
     const int tones = setting / kSixtyFourthsPerTone;
     const int part = setting % kSixtyFourthsPerTone;
-    constexpr double kTonesPerOctave = 6.0;
-    const double octaves =
-        -part / (kSixtyFourthsPerTone * kTonesPerOctave) + -tones / kTonesPerOctave;
     constexpr double kCents = kCentsPerOctave / (kSixtyFourthsPerTone * kTonesPerOctave);
-    return {std::pow(2.0, octaves), setting * kCents, TonesText(setting)};
+    return {QuotientOfTones(tones, part, kSixtyFourthsPerTone), setting * kCents,
+            TonesText(setting)};
 }
 
 PitchSetting PitchSetting::FromOctaves(const std::string& text)
@@ -73,12 +68,6 @@ PitchSetting PitchSetting::FromQuotient(const std::string& text)
 {
     const double quotient = ReadNumber(text, {"--q-p", 0.5, 2.0, "0.5 to 2.0"});
     return {quotient, -kCentsPerOctave * std::log2(quotient), "Q_P " + text};
-}
-
-double PitchSetting::CentsMade(std::int32_t rate_hz) const
-{
-    const double block_len = FrameLength(rate_hz);
-    return kCentsPerOctave * std::log2(Round(block_len * (1.0 / Q_P)) / block_len);
 }
 
 } // namespace lumora

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 
 namespace lumora {
@@ -16,11 +15,6 @@ struct PitchSetting {
     static PitchSetting FromOctaves(const std::string& text);  ///< -1 to 1
     static PitchSetting FromCents(const std::string& text);    ///< -1200 to 1200
     static PitchSetting FromQuotient(const std::string& text); ///< 0.5 to 2.0
-
-    /// The change that the engine makes of it. A block of BlockLen samples is stretched to a whole
-    /// number K of samples and resampled back, so the pitch moves by exactly K / BlockLen. The rate
-    /// must be one that the engine runs at.
-    double CentsMade(std::int32_t rate_hz) const;
 };
 
 } // namespace lumora

@@ -1,6 +1,7 @@
 #include "cli/pitch/ToneText.h"
 
 #include "cli/terminal/UsageError.h"
+#include "engine/Tones.h"
 
 #include <charconv>
 #include <cstdlib>
@@ -105,7 +106,7 @@ int ReadTones(std::string_view text)
         Refuse(text, "not exactly a whole number of 64ths of a tone; " + std::string(kGrammar) +
                          ", or use --cents");
     if (!size) Refuse(text, kGrammar);
-    if (*size > kMostTones * kSixtyFourthsPerTone)
+    if (*size > kTonesPerOctave * kSixtyFourthsPerTone)
         Refuse(text, "beyond an octave; the range is -6 to 6 tones");
     return sign * *size;
 }

@@ -5,9 +5,8 @@
 
 namespace lumora {
 
-/// Tone settings are whole numbers of 64ths of a tone, -384 to 384: six tones to the octave.
+/// Tone settings are whole numbers of 64ths of a tone, -384 to 384: an octave either way.
 inline constexpr int kSixtyFourthsPerTone = 64;
-inline constexpr int kMostTones = 6;
 
 /// Reads a tone setting exactly: an optional sign, then whole tones, a fraction, or both joined by
 /// a sign: "+1", "-2-3/8", "1/64", "+2+1/2". Denominators are 2, 4, 8, 16, 32 and 64. A decimal is

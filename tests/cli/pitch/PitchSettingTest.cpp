@@ -76,28 +76,5 @@ TEST(PitchSetting, NamesTheChangeInTheUnitThatWasAsked)
     EXPECT_EQ(PitchSetting::FromQuotient("0.9").asked, "Q_P 0.9");
 }
 
-struct MadeOfTones {
-    const char* tones;
-    std::int32_t rate_hz;
-    int stretched; ///< K: block x 2^(tones/6), to the nearest, half to even (239.5 is 240)
-    int block;     ///< rate x 220 / 22050, to the nearest
-};
-
-TEST(PitchSetting, TheChangeMadeIsTheQuotientOfTwoWholeBlockLengths)
-{
-    // By hand: 220 x 2^(1/384) = 220.4, 440 x 2^(1/48) = 446.4, 479 x 2^(-1/6) = 426.7.
-    constexpr MadeOfTones kTable[] = {
-        {"+1/64", 22050, 220, 220}, {"-1/64", 22050, 220, 220},  {"+1/64", 44100, 441, 440},
-        {"+1/8", 44100, 446, 440},  {"-1", 48000, 427, 479},     {"+6", 22050, 440, 220},
-        {"-6", 22050, 110, 220},    {"-6", 8000, 40, 80},        {"+1", 8000, 90, 80},
-        {"+3", 11025, 156, 110},    {"-2-3/8", 44100, 334, 440}, {"-6", 48000, 240, 479},
-    };
-    for (const auto& [tones, rate_hz, stretched, block] : kTable) {
-        const double cents = 1200.0 * std::log2(static_cast<double>(stretched) / block);
-        EXPECT_NEAR(PitchSetting::FromTones(tones).CentsMade(rate_hz), cents, 1e-9)
-            << tones << " at " << rate_hz;
-    }
-}
-
 } // namespace
 } // namespace lumora
