@@ -1,6 +1,8 @@
 #include "cli/Command.h"
 
-#include "cli/CommandLine.h"
+#include "cli/Commands.h"
+#include "cli/grammar/CommandLine.h"
+#include "cli/grammar/Completion.h"
 #include "cli/terminal/StandardOutput.h"
 #include "cli/terminal/UsageError.h"
 
@@ -14,26 +16,20 @@ namespace {
 
 constexpr int kWrongUsage = 2;
 
-int Run(const PitchRequest& request)
+int Print(const std::string& text)
 {
-    return RunPitchCommand(request);
-}
-int Run(const DeclipRequest& request)
-{
-    return RunDeclipCommand(request);
-}
-int Run(const InfoRequest& request)
-{
-    return RunInfoCommand(request);
-}
-int Run(const ArrRequest& request)
-{
-    return RunArrCommand(request);
-}
-int Run(const HelpRequest& request)
-{
-    PrintText(request.text);
+    PrintText(text);
     return AllWasPrinted() ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+int Run(const std::vector<Command>& commands, std::vector<std::string> words)
+{
+    if (!words.empty() && words.front() == kCompletionWord) {
+        words.erase(words.begin());
+        return Print(OffersText(OffersFor(commands, words)));
+    }
+    const Asked asked = ReadCommandLine(commands, std::move(words));
+    return asked.command ? asked.command->run() : Print(asked.text);
 }
 
 } // namespace
@@ -41,8 +37,7 @@ int Run(const HelpRequest& request)
 int RunCommand(std::vector<std::string> words)
 {
     try {
-        return std::visit([](const auto& request) { return Run(request); },
-                          ReadCommandLine(std::move(words)));
+        return Run(AllCommands(), std::move(words));
     } catch (const UsageError& error) {
         PrintError(error.what());
         PrintError("lumora help and lumora help COMMAND tell more");

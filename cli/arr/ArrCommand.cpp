@@ -1,192 +1,121 @@
 #include "cli/arr/ArrCommand.h"
 
-#include "base/ByteStream.h"
-#include "base/OrOutOfMemory.h"
-#include "cli/arr/ArrReport.h"
-#include "cli/arr/Csv.h"
-#include "cli/terminal/Explained.h"
-#include "cli/terminal/JobFailure.h"
-#include "cli/terminal/StandardOutput.h"
+#include "cli/arr/ArrRun.h"
 #include "cli/terminal/UsageError.h"
-#include "cli/terminal/WhileUnchanged.h"
 #include "cli/terminal/Wording.h"
-#include "numeric/files/ArrFile.h"
-#include "platform/FileFault.h"
-#include "platform/OutputFile.h"
-#include "platform/StopSignals.h"
-#include "platform/TemporaryName.h"
 
-#include <nlohmann/json.hpp>
-
-#include <cstdlib>
-#include <filesystem>
-#include <functional>
+#include <algorithm>
+#include <iterator>
+#include <memory>
 
 namespace lumora {
 
 namespace {
 
-using Fields = nlohmann::ordered_json;
-using Tick = std::function<void()>;
+constexpr char kArrFooter[] = R"(
+FILE is a matrix file (.arr), CSV a table of comma-separated cells in UTF-8.
 
-/// A signal has asked the command to end.
-struct StopRequest {
-    int signal;
+  lumora arr show keys.arr
+  lumora arr to-csv keys.arr keys.csv
+  lumora arr from-csv keys.csv new.arr --as string)";
+
+/// What can be done, and how many files it takes.
+struct ActionWord {
+    const char* name;
+    ArrAction action;
+    std::size_t least_files;
+    std::size_t most_files;
+    const char* too_few;
+    const char* too_many;
 };
 
-/// Makes a file that gets its name when it is complete. `write` takes the path to write and a
-/// function to call now and then, which ends the work when a signal has come.
-void WriteComplete(const ArrRequest& request,
-                   const std::function<void(const std::string&, const Tick&)>& write)
+constexpr ActionWord kActions[] = {
+    {"show", ArrAction::Show, 1, 1, "name a matrix file", "too many names"},
+    {"to-csv", ArrAction::ToCsv, 1, 2, "name a matrix file", "too many names"},
+    {"from-csv", ArrAction::FromCsv, 2, 2, "name a table and the matrix file to make of it",
+     "name a table and the matrix file to make of it"},
+};
+
+struct ClassWord {
+    const char* name;
+    ArrClass value;
+};
+
+constexpr ClassWord kClasses[] = {{"matrix", ArrClass::Matrix},
+                                  {"long", ArrClass::Long},
+                                  {"string", ArrClass::String},
+                                  {"complex", ArrClass::Complex}};
+
+template <class Word, std::size_t n> std::vector<std::string> WordsOf(const Word (&table)[n])
 {
-    const OutputFile output(request.output, request.force ? Existing::Replace : Existing::Keep,
-                            Folder::MustExist);
-    const std::string fault = output.Fault();
-    if (!fault.empty()) throw JobFailure(NameText(output.Name()) + " " + fault);
-    const StopSignals signals;
-    RemoveAbandoned(output.TargetFolder());
-    const Tick tick = [&] {
-        if (const int signal = signals.Take()) throw StopRequest{signal};
-    };
-    FailFor(output.Prepare());
-    try {
-        write(output.Result(), tick);
-        tick();
-        FailFor(output.Complete());
-        FailFor(output.Commit());
-    } catch (...) {
-        output.Discard();
-        throw;
-    }
+    std::vector<std::string> words;
+    for (const Word& each : table)
+        words.emplace_back(each.name);
+    return words;
 }
 
-/// All of a file at once: a table is read from end to end anyway.
-std::string TextOf(const std::string& path)
+/// The line of the table with this name; nullptr if there is none.
+template <class Word, std::size_t n>
+const Word* Named(const Word (&table)[n], const std::string& name)
 {
-    FailFor(FileFault(path, "table"));
-    return WhileUnchanged(WatchedFile(path), [&] {
-        const OpenFile file(OpenForReading(path));
-        std::string text(static_cast<std::size_t>(FileLength(file.Number())), '\0');
-        text.resize(ReadValues(file.Number(), std::span(text)));
-        return text;
-    });
+    const auto found = std::find_if(std::begin(table), std::end(table),
+                                    [&](const Word& each) { return name == each.name; });
+    return found == std::end(table) ? nullptr : found;
 }
 
-void RefuseInputAsOutput(const ArrRequest& request)
+/// The line as it was given.
+struct ArrWords {
+    std::vector<std::string> names;
+    std::optional<std::string> class_name;
+    ArrRequest request; ///< its flags
+};
+
+ArrClass ClassIn(const ArrWords& words)
 {
-    std::error_code missing;
-    if (std::filesystem::equivalent(request.input, request.output, missing))
-        throw UsageError(NameText(request.output) +
-                         " is the input as well; give the result another name");
+    if (const ClassWord* known = Named(kClasses, words.class_name.value_or("")))
+        return known->value;
+    throw UsageError("say what to make of the table: --as " + Listed(WordsOf(kClasses), "or"));
 }
 
-/// What is in the input, with its notes told.
-ArrContents ContentsOf(const ArrRequest& request)
+ArrRequest RequestOf(const ArrWords& words)
 {
-    const std::string& path = request.input;
-    ArrContents contents = WhileUnchanged(WatchedFile(path), [&] { return ReadArrContents(path); });
-    if (!request.json)
-        for (const std::string& note : contents.notes)
-            PrintError(NameText(path) + ": " + note);
-    return contents;
-}
-
-Fields Summary(const ArrContents& contents)
-{
-    return {{"notes", contents.notes},
-            {"class", contents.kind},
-            {"rows", contents.rows},
-            {"columns", contents.columns}};
-}
-
-/// The closing line of a file that was made.
-std::string ClosingLine(const ArrRequest& request, const ArrContents& contents)
-{
-    return NameText(request.input) + " -> " + NameText(request.output) + ": " + contents.kind +
-           ", " + std::to_string(contents.rows) + " by " + std::to_string(contents.columns) + "\n";
-}
-
-Fields Show(const ArrRequest& request)
-{
-    const ArrContents contents = ContentsOf(request);
-    Fields fields = Summary(contents);
-    if (request.json)
-        fields["elements"] = ArrElements(contents);
-    else
-        PrintText(ArrTable(request.input, contents, request.all ? Shown::All : Shown::Ends));
-    return fields;
-}
-
-Fields ToCsv(const ArrRequest& request)
-{
-    const ArrContents contents = ContentsOf(request);
-    if (request.output.empty()) {
-        WriteCsv(contents, PrintText);
-        return {};
-    }
-    WriteComplete(request, [&](const std::string& path, const Tick& tick) {
-        OpenFile file(fopen(path, "wb"));
-        WriteCsv(contents, [&](const std::string& piece) {
-            tick();
-            WriteValues(file.Number(), std::span<const char>(piece));
-        });
-        file.Close();
-    });
-    if (!request.json) PrintText(ClosingLine(request, contents));
-    return Summary(contents);
-}
-
-Fields FromCsv(const ArrRequest& request)
-{
-    ArrContents contents;
-    WriteComplete(request, [&](const std::string& path, const Tick& tick) {
-        WriteArrTo(path, ReadCsv(TextOf(request.input), request.as, tick), {});
-        contents = ReadArrContents(path);
-    });
-    if (!request.json) PrintText(ClosingLine(request, contents));
-    return Summary(contents);
-}
-
-Fields Work(const ArrRequest& request)
-{
-    if (request.action == ArrAction::Show) return Show(request);
-    return request.action == ArrAction::ToCsv ? ToCsv(request) : FromCsv(request);
-}
-
-void PrintDocument(const ArrRequest& request, const std::string& error, const Fields& fields)
-{
-    Fields result = {{"file", request.input}};
-    if (!request.output.empty()) result["output"] = request.output;
-    result["notes"] = Fields::array();
-    result["ok"] = error.empty();
-    if (!error.empty()) result["error"] = error;
-    result.update(fields);
-    PrintJson({{"results", Fields::array({std::move(result)})}});
+    const ActionWord* action = Named(kActions, words.names.empty() ? "" : words.names.front());
+    if (!action) throw UsageError("say what to do: lumora arr " + Listed(WordsOf(kActions), "or"));
+    const std::size_t files = words.names.size() - 1;
+    if (files < action->least_files) throw UsageError(action->too_few);
+    if (files > action->most_files) throw UsageError(action->too_many);
+    ArrRequest request = words.request;
+    request.action = action->action;
+    request.input = words.names[1];
+    if (files == 2) request.output = words.names[2];
+    if (request.action == ArrAction::FromCsv) request.as = ClassIn(words);
+    if (request.action == ArrAction::ToCsv && request.json && request.output.empty())
+        throw UsageError("with --json the table needs a file of its own: name it");
+    return request;
 }
 
 } // namespace
 
-int RunArrCommand(const ArrRequest& request)
+Command ArrCommand()
 {
-    RefuseInputAsOutput(request);
-    std::string error;
-    Fields fields = Fields::object();
-    try {
-        fields = OrOutOfMemory([&] { return Work(request); });
-    } catch (const JobFailure& failure) {
-        error = failure.what();
-    } catch (const RunTimeError& failure) {
-        error = Explained(failure);
-    } catch (const StopRequest& stop) {
-        constexpr int kStatusOfSignals = 128; // as a shell counts them
-        PrintError("stopped; nothing was written");
-        return kStatusOfSignals + stop.signal;
-    }
-    if (request.json)
-        PrintDocument(request, error, fields);
-    else if (!error.empty())
-        PrintError(NameText(request.input) + ": " + error);
-    return AllWasPrinted() && error.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
+    const auto words = std::make_shared<ArrWords>();
+    const std::vector<std::string> actions = WordsOf(kActions);
+    const std::vector<std::string> classes = WordsOf(kClasses);
+    return {
+        .name = "arr",
+        .text = "Show matrix files, and turn them into tables and back",
+        .usage = {"show FILE [OPTIONS]", "to-csv FILE [CSV] [OPTIONS]",
+                  "from-csv CSV FILE --as CLASS [OPTIONS]"},
+        .names = {"ACTION", Listed(actions, "or") + ", and its files", &words->names, actions},
+        .options = {{"--as", "What from-csv makes: " + Listed(classes, "or"),
+                     TextValue{&words->class_name, "CLASS", {Offers::Kind::Words, classes}}},
+                    {"--all", "Show a large table as a whole", FlagValue{&words->request.all}},
+                    {"--force", "Replace a file that exists already",
+                     FlagValue{&words->request.force}},
+                    {"--json", "Print the answer as JSON", FlagValue{&words->request.json}}},
+        .footer = kArrFooter,
+        .run = [words] { return RunArr(RequestOf(*words)); },
+    };
 }
 
 } // namespace lumora

@@ -6,8 +6,6 @@
 #include "numeric/clsMatrix.h"
 #include "numeric/clsString.h"
 
-#include <nlohmann/json.hpp>
-
 #include <algorithm>
 #include <cmath>
 #include <concepts>
@@ -152,14 +150,14 @@ std::string LeftOutText(const Part& part)
 }
 
 /// JSON has no word for what is not finite.
-nlohmann::ordered_json JsonNumber(double x)
+JsonValue JsonNumber(double x)
 {
     if (std::isnan(x)) return "NaN";
     if (std::isinf(x)) return x < 0.0 ? "-Inf" : "Inf";
     return x;
 }
 
-template <class T> nlohmann::ordered_json JsonElement(const T& x)
+template <class T> JsonValue JsonElement(const T& x)
 {
     if constexpr (std::same_as<T, ComplexValue>)
         return {{"re", JsonNumber(x.re)}, {"im", JsonNumber(x.im)}};
@@ -199,16 +197,16 @@ std::string ArrTable(const std::string& file, const ArrContents& contents, Shown
     return text + LeftOutText(part);
 }
 
-nlohmann::ordered_json ArrElements(const ArrContents& contents)
+JsonValue ArrElements(const ArrContents& contents)
 {
-    nlohmann::ordered_json table = nlohmann::ordered_json::array();
+    JsonValue table = JsonValue::List();
     WithElements(contents, [&](const auto& elements) {
         if constexpr (requires { JsonElement(elements[0]); })
             for (std::int32_t i = 0; i < contents.rows; ++i) {
-                nlohmann::ordered_json row = nlohmann::ordered_json::array();
+                JsonValue row = JsonValue::List();
                 for (std::int32_t j = 0; j < contents.columns; ++j)
-                    row.push_back(JsonElement(elements[contents.Place(i, j)]));
-                table.push_back(std::move(row));
+                    row.Append(JsonElement(elements[contents.Place(i, j)]));
+                table.Append(std::move(row));
             }
     });
     return table;

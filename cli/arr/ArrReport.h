@@ -1,8 +1,7 @@
 #pragma once
 
 #include "cli/arr/ArrCells.h"
-
-#include <nlohmann/json_fwd.hpp>
+#include "cli/terminal/JsonValue.h"
 
 #include <string>
 
@@ -18,6 +17,6 @@ std::string ArrTable(const std::string& file, const ArrContents& contents, Shown
 
 /// The elements as an array of rows. Complex ones are objects with "re" and "im", what is not
 /// finite is the text "NaN", "Inf" or "-Inf", money and dates are numbers.
-nlohmann::ordered_json ArrElements(const ArrContents& contents);
+JsonValue ArrElements(const ArrContents& contents);
 
 } // namespace lumora

@@ -59,8 +59,8 @@ std::string LineOfWhatComesOut(const OverFilterReport& report, const SoundShape&
                                               : "level unchanged");
 }
 
-nlohmann::ordered_json DelayFrames(const OverFilterReport& report, const SoundShape& sound,
-                                   OverFilterLength length)
+JsonValue DelayFrames(const OverFilterReport& report, const SoundShape& sound,
+                      OverFilterLength length)
 {
     if (length == OverFilterLength::Kept) return 0;
     const std::int64_t delay = report.BufferLen - 1;

@@ -19,8 +19,6 @@ namespace lumora {
 
 namespace {
 
-using Fields = nlohmann::ordered_json;
-
 std::vector<FileJob> PlanJobs(const FilesRequest& request)
 {
     const OutputPlan plan = PlanOutputs(request);
@@ -44,7 +42,7 @@ std::vector<std::uintmax_t> SizesOf(const std::vector<FileJob>& jobs)
 
 class FileRun {
 public:
-    FileRun(const FilesRequest& request, const Fields& asked, const FileWork& work)
+    FileRun(const FilesRequest& request, const JsonValue& asked, const FileWork& work)
         : request_(request),
           asked_(asked),
           work_(work),
@@ -133,19 +131,19 @@ private:
 
     void PrintDocument() const
     {
-        Fields results = Fields::array();
+        JsonValue results = JsonValue::List();
         for (std::size_t k = 0; k < jobs_.size(); ++k)
-            results.push_back(Json(jobs_[k], *outcomes_[k]));
-        PrintJson({{"results", std::move(results)}});
+            results.Append(Json(jobs_[k], *outcomes_[k]));
+        PrintResults(std::move(results));
     }
 
-    Fields Json(const FileJob& job, const JobOutcome& outcome) const
+    JsonValue Json(const FileJob& job, const JobOutcome& outcome) const
     {
-        Fields json = {{"file", job.input}, {"output", job.output.Name()}};
-        json.update(asked_);
-        json.update({{"notes", outcome.notes}, {"ok", outcome.error.empty()}});
-        if (!outcome.error.empty()) json["error"] = outcome.error;
-        if (outcome.summary) json.update(outcome.summary->fields);
+        JsonValue json = {{"file", job.input}, {"output", job.output.Name()}};
+        json.SetAll(asked_);
+        json.SetAll({{"notes", outcome.notes}, {"ok", outcome.error.empty()}});
+        if (!outcome.error.empty()) json.Set("error", outcome.error);
+        if (outcome.summary) json.SetAll(outcome.summary->fields);
         return json;
     }
 
@@ -162,7 +160,7 @@ private:
     }
 
     const FilesRequest& request_;
-    const Fields& asked_;
+    const JsonValue& asked_;
     const FileWork& work_;
     std::vector<FileJob> jobs_;
     std::vector<std::optional<JobOutcome>> outcomes_;
@@ -172,7 +170,7 @@ private:
 
 } // namespace
 
-int RunOnFiles(const FilesRequest& request, const Fields& asked, const FileWork& work)
+int RunOnFiles(const FilesRequest& request, const JsonValue& asked, const FileWork& work)
 {
     return FileRun(request, asked, work).Run();
 }

@@ -116,13 +116,13 @@ private:
         std::snprintf(speed, sizeof speed, ", %.0f times real time", times_real_time);
         const std::int64_t output_samples =
             ReadWaveInfo(EnginePath(job_.output.Result())).TotalSamples;
-        nlohmann::ordered_json fields = {{"rate_hz", sound_.rate_hz},
-                                         {"channels", sound_.channels},
-                                         {"samples", sound_.samples},
-                                         {"seconds", seconds},
-                                         {"output_samples", output_samples}};
-        fields.update(own.fields);
-        fields.update({{"elapsed_seconds", elapsed}, {"times_real_time", times_real_time}});
+        JsonValue fields = {{"rate_hz", sound_.rate_hz},
+                            {"channels", sound_.channels},
+                            {"samples", sound_.samples},
+                            {"seconds", seconds},
+                            {"output_samples", output_samples}};
+        fields.SetAll(own.fields);
+        fields.SetAll({{"elapsed_seconds", elapsed}, {"times_real_time", times_real_time}});
         const std::string length = LengthText(sound_.samples, sound_.rate_hz);
         return {length + ", " + own.line + speed, fields};
     }

@@ -25,10 +25,18 @@ template <class T> T FromBytes(std::string_view bytes)
     return value;
 }
 
+/// A summary is the length of its line, the line, and its fields.
+std::string SummaryBytes(const JobSummary& summary)
+{
+    return std::string(AsBytes(static_cast<Length>(summary.line.size()))) + summary.line +
+           summary.fields.Line();
+}
+
 JobSummary SummaryFrom(std::string_view bytes)
 {
-    const auto both = nlohmann::ordered_json::parse(bytes);
-    return {both.at(0), both.at(1)};
+    const auto length = FromBytes<Length>(bytes);
+    bytes.remove_prefix(sizeof length);
+    return {std::string(bytes.substr(0, length)), JsonValue::FromLine(bytes.substr(length))};
 }
 
 } // namespace
@@ -48,7 +56,7 @@ void JobLink::Note(std::string_view text)
 
 void JobLink::Done(const JobSummary& summary)
 {
-    Send(kDone, nlohmann::ordered_json::array({summary.line, summary.fields}).dump());
+    Send(kDone, SummaryBytes(summary));
 }
 
 void JobLink::Failed(std::string_view error)

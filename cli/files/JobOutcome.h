@@ -1,6 +1,6 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
+#include "cli/terminal/JsonValue.h"
 
 #include <optional>
 #include <string>
@@ -10,8 +10,8 @@ namespace lumora {
 
 /// What is told of a file that was done.
 struct JobSummary {
-    std::string line;              ///< what stands behind the names
-    nlohmann::ordered_json fields; ///< an object
+    std::string line; ///< what stands behind the names
+    JsonValue fields; ///< an object
 };
 
 /// What became of one file.

@@ -37,8 +37,8 @@ fs::path PlaceOf(const std::string& name)
 
 std::string OutputName(const FilesRequest& request, const std::string& input)
 {
-    if (request.folder.empty()) return request.output;
-    return (fs::path(request.folder) / fs::path(input).stem()).string() + ".wav";
+    if (!request.folder) return request.output;
+    return (fs::path(*request.folder) / fs::path(input).stem()).string() + ".wav";
 }
 
 void RefuseInput(const OutputFile& output, const std::set<FileId>& inputs)
@@ -75,7 +75,7 @@ void RefusePicture(const OutputFile& picture, const std::vector<OutputFile>& res
 OutputPlan PlanOutputs(const FilesRequest& request)
 {
     const Existing existing = request.force ? Existing::Replace : Existing::Keep;
-    const Folder folder = request.folder.empty() ? Folder::MustExist : Folder::MakeIt;
+    const Folder folder = request.folder ? Folder::MakeIt : Folder::MustExist;
     const std::set<FileId> inputs = IdsOf(request.inputs);
     OutputPlan plan;
     for (const std::string& input : request.inputs)

@@ -3,13 +3,12 @@
 #include "audio/FrameRule.h"
 #include "cli/terminal/Wording.h"
 
-#include <nlohmann/json.hpp>
+#include <variant>
+#include <vector>
 
 namespace lumora {
 
 namespace {
-
-using Fields = nlohmann::ordered_json;
 
 const char* RoadName(Road road)
 {
@@ -17,7 +16,12 @@ const char* RoadName(Road road)
     return road == Road::Converted ? "converted" : "refused";
 }
 
-Fields HeaderFields(const WaveInfo& header)
+struct HeaderField {
+    const char* name;
+    std::variant<std::int64_t, std::string> value;
+};
+
+std::vector<HeaderField> HeaderFields(const WaveInfo& header)
 {
     return {{"RiffID", header.RiffID},
             {"RiffSize", header.RiffSize},
@@ -41,11 +45,19 @@ Fields HeaderFields(const WaveInfo& header)
             {"Message", header.Message}};
 }
 
-Fields ChunkFields(const std::vector<WaveChunk>& chunks)
+JsonValue HeaderJson(const WaveInfo& header)
 {
-    Fields list = Fields::array();
+    JsonValue object = JsonValue::Object();
+    for (const HeaderField& field : HeaderFields(header))
+        std::visit([&](const auto& value) { object.Set(field.name, value); }, field.value);
+    return object;
+}
+
+JsonValue ChunksJson(const std::vector<WaveChunk>& chunks)
+{
+    JsonValue list = JsonValue::List();
     for (const WaveChunk& chunk : chunks)
-        list.push_back({{"id", chunk.id}, {"bytes", chunk.bytes}, {"start", chunk.start}});
+        list.Append({{"id", chunk.id}, {"bytes", chunk.bytes}, {"start", chunk.start}});
     return list;
 }
 
@@ -90,31 +102,32 @@ std::string InfoReport::Text() const
     for (const WaveChunk& chunk : check.outline.chunks)
         text += TextLine("chunk " + chunk.id, std::to_string(chunk.bytes) + " bytes at position " +
                                                   std::to_string(chunk.start));
-    const Fields fields = HeaderFields(check.outline.header);
-    for (const auto& [name, value] : fields.items())
-        text += TextLine(name, value.is_string() ? value.get<std::string>() : value.dump());
+    for (const auto& [name, value] : HeaderFields(check.outline.header)) {
+        const auto* number = std::get_if<std::int64_t>(&value);
+        text += TextLine(name, number ? std::to_string(*number) : std::get<std::string>(value));
+    }
     return text;
 }
 
-nlohmann::ordered_json InfoReport::Json() const
+JsonValue InfoReport::Json() const
 {
-    Fields json = {{"file", file}, {"ok", check.read}};
-    if (!check.read) json["error"] = check.reason;
-    json["pitch"] = RoadName(check.road);
-    if (check.road != Road::Direct) json["reason"] = check.reason;
-    if (!check.format.empty()) json["format"] = check.format;
+    JsonValue json = {{"file", file}, {"ok", check.read}};
+    if (!check.read) json.Set("error", check.reason);
+    json.Set("pitch", RoadName(check.road));
+    if (check.road != Road::Direct) json.Set("reason", check.reason);
+    if (!check.format.empty()) json.Set("format", check.format);
     if (check.read) {
-        json["rate_hz"] = check.sound.rate_hz;
-        json["channels"] = check.sound.channels;
-        json["samples"] = check.sound.samples;
+        json.Set("rate_hz", check.sound.rate_hz);
+        json.Set("channels", check.sound.channels);
+        json.Set("samples", check.sound.samples);
         if (check.sound.rate_hz > 0)
-            json["seconds"] = static_cast<double>(check.sound.samples) / check.sound.rate_hz;
+            json.Set("seconds", static_cast<double>(check.sound.samples) / check.sound.rate_hz);
     }
-    if (check.road != Road::Refused) json["block_samples"] = FrameLength(check.sound.rate_hz);
+    if (check.road != Road::Refused) json.Set("block_samples", FrameLength(check.sound.rate_hz));
     if (check.outline.IsWave()) {
-        json["header"] = HeaderFields(check.outline.header);
-        json["chunks"] = ChunkFields(check.outline.chunks);
-        json["data_bytes_there"] = check.outline.DataBytesThere();
+        json.Set("header", HeaderJson(check.outline.header));
+        json.Set("chunks", ChunksJson(check.outline.chunks));
+        json.Set("data_bytes_there", check.outline.DataBytesThere());
     }
     return json;
 }

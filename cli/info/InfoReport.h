@@ -1,8 +1,7 @@
 #pragma once
 
 #include "cli/files/InputCheck.h"
-
-#include <nlohmann/json_fwd.hpp>
+#include "cli/terminal/JsonValue.h"
 
 #include <string>
 
@@ -16,7 +15,7 @@ struct InfoReport {
     /// Lines for a reader, the first being the file's name.
     std::string Text() const;
     /// The same for a program; the fields are described in the man page.
-    nlohmann::ordered_json Json() const;
+    JsonValue Json() const;
 };
 
 } // namespace lumora

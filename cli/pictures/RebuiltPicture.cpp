@@ -1,6 +1,7 @@
 #include "cli/pictures/RebuiltPicture.h"
 
 #include "cli/terminal/JobFailure.h"
+#include "cli/terminal/JsonValue.h"
 #include "cli/terminal/Wording.h"
 #include "overfilter/OverFilterPlan.h"
 

@@ -1,6 +1,6 @@
 #include "cli/terminal/StandardOutput.h"
 
-#include <nlohmann/json.hpp>
+#include "cli/terminal/JsonValue.h"
 
 #include <cstdio>
 
@@ -17,9 +17,11 @@ void PrintError(const std::string& line)
     std::fputs(("lumora: " + line + "\n").c_str(), stderr);
 }
 
-void PrintJson(const nlohmann::ordered_json& document)
+void PrintResults(JsonValue results)
 {
-    PrintText(document.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) + "\n");
+    JsonValue document = JsonValue::Object();
+    document.Set("results", std::move(results));
+    PrintText(document.Lines() + "\n");
 }
 
 bool AllWasPrinted()

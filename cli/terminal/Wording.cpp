@@ -1,7 +1,5 @@
 #include "cli/terminal/Wording.h"
 
-#include <nlohmann/json.hpp>
-
 #include <cmath>
 #include <cstdarg>
 #include <cstdio>
@@ -57,10 +55,14 @@ std::string GainText(double divisor)
     return Formatted("divided by up to %.3f (%.2f dB)", divisor, GainDb(divisor));
 }
 
-std::string Utf8Text(const std::string& text)
+std::string Listed(const std::vector<std::string>& words, const std::string& last)
 {
-    using nlohmann::json;
-    return json::parse(json(text).dump(-1, ' ', false, json::error_handler_t::replace));
+    std::string text;
+    for (std::size_t k = 0; k < words.size(); ++k) {
+        if (k > 0) text += k + 1 < words.size() ? ", " : " " + last + " ";
+        text += words[k];
+    }
+    return text;
 }
 
 } // namespace lumora

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace lumora {
 
@@ -17,7 +18,7 @@ std::string CentsText(double cents);
 double GainDb(double divisor);
 /// "divided by up to 1.250 (-1.94 dB)".
 std::string GainText(double divisor);
-/// The text with U+FFFD for bytes that are no UTF-8.
-std::string Utf8Text(const std::string& text);
+/// "pitch, declip and info", where `last` is "and".
+std::string Listed(const std::vector<std::string>& words, const std::string& last);
 
 } // namespace lumora

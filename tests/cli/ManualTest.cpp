@@ -1,11 +1,14 @@
 #include "cli/CommandRun.h"
+#include "cli/Commands.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
 #include "cli/Sounds.h"
+#include "cli/files/RunLimits.h"
 
+#include <filesystem>
 #include <regex>
 #include <set>
 
@@ -85,6 +88,40 @@ TEST(ManPage, NamesExactlyTheOptionsOfTheHelp)
     EXPECT_EQ(told, AllOptions());
 }
 
+TEST(ManPage, NamesEveryCommandAndWhatItTakes)
+{
+    const std::string page = ManPage();
+    const auto expect_named = [&](const std::string& words) {
+        const std::regex whole("(^|[^-\\w])" + words + "([^-\\w]|$)");
+        EXPECT_TRUE(std::regex_search(page, whole)) << words;
+    };
+    std::size_t options = 0;
+    for (const Command& command : AllCommands()) {
+        expect_named("lumora " + command.name);
+        for (const std::string& word : command.names.first)
+            expect_named("lumora " + command.name + " " + word);
+        for (const Option& option : command.options) {
+            ++options;
+            expect_named(option.name);
+            if (const auto* text = std::get_if<TextValue>(&option.value))
+                for (const std::string& word : text->offers.words)
+                    expect_named(word);
+        }
+    }
+    EXPECT_GE(options, 18U);
+}
+
+TEST(ManPage, TellsTheRatesThatAreWorkedOn)
+{
+    const auto told = [](const RunLimits& limits) {
+        return "rates of " + std::to_string(limits.lowest_rate_hz) + " to " +
+               std::to_string(limits.highest_rate_hz) + " Hz";
+    };
+    const std::string page = ManPage();
+    EXPECT_NE(page.find(told(kPitchLimits)), std::string::npos);
+    EXPECT_NE(page.find(told(kDeclipLimits)), std::string::npos);
+}
+
 TEST(ManPage, NamesEveryFieldOfTheJson)
 {
     const TempFolder folder;
@@ -121,7 +158,8 @@ TEST(ManPage, NamesEveryFieldOfTheJson)
 /// What bash offers for the last of these words.
 std::set<std::string> Completions(const Names& words, const std::string& folder = "/")
 {
-    std::string script = "source '" + kPackaging +
+    const std::string programs = std::filesystem::path(LUMORA_COMMAND).parent_path();
+    std::string script = "PATH='" + programs + "':$PATH; source '" + kPackaging +
                          "lumora.bash-completion'; compopt() { :; }; "
                          "COMP_WORDS=(";
     for (const std::string& word : words)
