@@ -155,6 +155,7 @@ void PrintDocument(const ArrRequest& request, const std::string& error, const Js
 {
     JsonValue result = {{"file", request.input}};
     if (!request.output.empty()) result.Set("output", request.output);
+    result.Set("notes", JsonValue::List());
     result.Set("ok", error.empty());
     if (!error.empty()) result.Set("error", error);
     result.SetAll(fields);

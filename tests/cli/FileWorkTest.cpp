@@ -76,7 +76,7 @@ protected:
         return {kPitchLimits, [and_then](const ReadyFile& file) {
                     std::ofstream(file.result, std::ios::binary) << BytesOf(file.input);
                     and_then();
-                    return JobSummary{"copied", nlohmann::ordered_json::object()};
+                    return JobSummary{"copied", JsonValue::Object()};
                 }};
     }
 

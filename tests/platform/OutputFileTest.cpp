@@ -181,7 +181,7 @@ TEST(OutputFile, AReplacedFileKeepsItsMode)
 {
     const TempFolder folder;
     const std::string out = folder.Write("out.wav", "old");
-    for (const mode_t mode : {0600, 0644, 0666, 0604, 0755, 0200}) {
+    for (const mode_t mode : {0600U, 0644U, 0666U, 0604U, 0755U, 0200U}) {
         ASSERT_EQ(chmod(out.c_str(), mode), 0);
         EXPECT_EQ(Road({out, Existing::Replace, Folder::MustExist}), "");
         EXPECT_EQ(ModeOf(out), mode);
@@ -265,7 +265,7 @@ TEST(OutputFile, AWriteProtectedFileIsNotReplaced)
 {
     const TempFolder folder;
     const std::string out = folder.Write("out.wav", "old");
-    for (const mode_t mode : {0444, 0466, 0}) {
+    for (const mode_t mode : {0444U, 0466U, 0U}) {
         ASSERT_EQ(chmod(out.c_str(), mode), 0);
         const OutputFile output(out, Existing::Replace, Folder::MustExist);
         EXPECT_EQ(output.Fault(), "is write-protected and is not replaced; give another name, or "

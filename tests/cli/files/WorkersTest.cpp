@@ -33,7 +33,7 @@ int StatusOfJobs(const std::function<void()>& prepare,
         Workers workers;
         workers.work = [](std::size_t, JobLink& link) {
             usleep(20000); // so that they would be side by side
-            link.Done({"done", nlohmann::ordered_json::object()});
+            link.Done({"done", JsonValue::Object()});
         };
         workers.on_end = [&](std::size_t, const JobOutcome& outcome) {
             errors.push_back(outcome.error);
