@@ -6,7 +6,10 @@ export CCACHE_DIR=${CCACHE_DIR:-$root/.cache/ccache}
 # Without this ccache passes by whatever uses a precompiled header.
 export CCACHE_SLOPPINESS=pch_defines,time_macros
 
-say() { printf '%s: %s\n' "${0##*/}" "$*" >&2; }
+# The script that the user called, for what is said.
+called_as=${called_as:-${0##*/}}
+
+say() { printf '%s: %s\n' "$called_as" "$*" >&2; }
 
 # Prints the packages for the purposes given that are not installed.
 missing_packages() {
@@ -40,7 +43,7 @@ install_missing() {
     if ! sudo=$(privilege); then
         say "these Debian packages are missing and only an administrator can install them:"
         printf '    apt-get install --no-install-recommends %s\n' "${missing[*]}" >&2
-        say "once that is done, call ${0##*/} again"
+        say "once that is done, call $called_as again"
         return 1
     fi
     say "installing ${missing[*]}"
@@ -99,7 +102,7 @@ tell_progress() {
         fi
         read -r done_now all rest <<<"${line#?}"
         if [[ -t 2 ]]; then
-            printf '\r\e[K%s: building %s of %s' "${0##*/}" "$done_now" "$all" >&2
+            printf '\r\e[K%s: building %s of %s' "$called_as" "$done_now" "$all" >&2
         elif ((done_now * 4 / all > told)); then
             told=$((done_now * 4 / all))
             say "building $done_now of $all"
