@@ -1,5 +1,5 @@
 # What a user of the library includes, and what that includes; all else is not installed. A test
-# compiles each of them alone, with no other header of the library at hand.
+# compiles each of them alone, with none at hand that is not installed.
 set(LUMORA_PUBLIC_HEADERS
   # Numbers, arrays, values, errors, messages, byte streams, progress
   base/Array.h

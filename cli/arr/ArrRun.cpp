@@ -178,9 +178,8 @@ int RunArr(const ArrRequest& request)
     } catch (const RunTimeError& failure) {
         error = Explained(failure);
     } catch (const StopRequest& stop) {
-        constexpr int kStatusOfSignals = 128; // as a shell counts them
         PrintError("stopped; nothing was written");
-        return kStatusOfSignals + stop.signal;
+        return StatusOfSignal(stop.signal);
     }
     if (request.json)
         PrintDocument(request, error, fields);

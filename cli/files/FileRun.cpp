@@ -149,14 +149,13 @@ private:
 
     int Stopped(int signal) const
     {
-        constexpr int kStatusOfSignals = 128; // as a shell counts them
         for (std::size_t k = 0; k < jobs_.size(); ++k)
             if (!outcomes_[k]) jobs_[k].Discard();
         const auto ended = std::count_if(outcomes_.begin(), outcomes_.end(),
                                          [](const auto& each) { return each.has_value(); });
         PrintError("stopped; " + std::to_string(ended) + " of " + std::to_string(jobs_.size()) +
                    " files had ended");
-        return kStatusOfSignals + signal;
+        return StatusOfSignal(signal);
     }
 
     const FilesRequest& request_;

@@ -10,15 +10,14 @@
 
 namespace lumora {
 
-namespace {
-
-constexpr char kNeverCompleted[] = "its header was never completed";
-
-/// Without its blanks, as the reader has it; of one that is nothing else, these.
 std::string ChunkName(const std::string& id)
 {
     return id.empty() ? "\"    \"" : NameText(id);
 }
+
+namespace {
+
+constexpr char kNeverCompleted[] = "its header was never completed";
 
 /// What keeps the engine's reader from a WAVE file whose header it has read; empty if nothing does.
 std::string HeaderFault(const WaveOutline& outline)

@@ -24,6 +24,10 @@ struct InputCheck {
     std::int64_t samples_promised = 0; ///< by a file that is cut short; else 0
 };
 
+/// The name of a chunk on one line: without its blanks, as the reader has it; of one that is
+/// nothing else, these in quotes.
+std::string ChunkName(const std::string& id);
+
 /// Looks at a file to be worked on within `limits`. Never fails: what is wrong with it stands in
 /// the answer.
 InputCheck CheckInput(const std::string& path, const RunLimits& limits);

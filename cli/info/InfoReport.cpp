@@ -100,8 +100,9 @@ std::string InfoReport::Text() const
         check.outline.Data() ? check.outline.Data()->bytes - check.outline.DataBytesThere() : 0;
     if (missing > 0) text += TextLine("missing", std::to_string(missing) + " bytes of the data");
     for (const WaveChunk& chunk : check.outline.chunks)
-        text += TextLine("chunk " + chunk.id, std::to_string(chunk.bytes) + " bytes at position " +
-                                                  std::to_string(chunk.start));
+        text += TextLine("chunk " + ChunkName(chunk.id), std::to_string(chunk.bytes) +
+                                                             " bytes at position " +
+                                                             std::to_string(chunk.start));
     for (const auto& [name, value] : HeaderFields(check.outline.header)) {
         const auto* number = std::get_if<std::int64_t>(&value);
         text += TextLine(name, number ? std::to_string(*number) : std::get<std::string>(value));

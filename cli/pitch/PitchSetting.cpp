@@ -55,19 +55,20 @@ PitchSetting PitchSetting::FromTones(const std::string& text)
 PitchSetting PitchSetting::FromOctaves(const std::string& text)
 {
     const double octaves = ReadNumber(text, {"--octaves", -1.0, 1.0, "-1 to 1"});
-    return {std::pow(2.0, -octaves), octaves * kCentsPerOctave, Signed(octaves, text) + " octaves"};
+    return {QuotientOfOctaves(octaves), octaves * kCentsPerOctave,
+            Signed(octaves, text) + " octaves"};
 }
 
 PitchSetting PitchSetting::FromCents(const std::string& text)
 {
     const double cents = ReadNumber(text, {"--cents", -1200.0, 1200.0, "-1200 to 1200"});
-    return {std::pow(2.0, -cents / kCentsPerOctave), cents, Signed(cents, text) + " cents"};
+    return {QuotientOfOctaves(cents / kCentsPerOctave), cents, Signed(cents, text) + " cents"};
 }
 
 PitchSetting PitchSetting::FromQuotient(const std::string& text)
 {
     const double quotient = ReadNumber(text, {"--q-p", 0.5, 2.0, "0.5 to 2.0"});
-    return {quotient, -kCentsPerOctave * std::log2(quotient), "Q_P " + text};
+    return {quotient, CentsOfQuotient(quotient), "Q_P " + text};
 }
 
 } // namespace lumora

@@ -17,4 +17,10 @@ void PrintResults(JsonValue results);
 /// False, with a line on standard error, if something printed did not reach its reader.
 bool AllWasPrinted();
 
+/// The exit status of a command that a signal has ended, as a shell counts it.
+inline constexpr int StatusOfSignal(int signal)
+{
+    return 128 + signal;
+}
+
 } // namespace lumora

@@ -9,6 +9,10 @@ namespace lumora {
 /// Blocks in a chunk, the unit of reading, writing and progress: about 1.45 seconds.
 inline constexpr std::int32_t kBlocksPerChunk = 145;
 
+/// The longest block that the core takes: four of them and 20 samples are its input buffer, whose
+/// positions have 16 bits.
+inline constexpr std::int32_t kLongestBlock = (32767 - 20) / 4;
+
 /// The frame rule: so many samples at this rate in Hz, and in proportion at any other.
 inline constexpr std::int32_t kRuleFrame = 220;
 inline constexpr std::int32_t kRuleRate = 22050;

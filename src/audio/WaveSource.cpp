@@ -21,7 +21,7 @@ constexpr std::size_t kPieceValues = 8192;
 /// more than its file holds.
 std::int64_t MostMissingValues(std::int32_t rate_hz)
 {
-    constexpr std::int64_t kHighestRate = 820510; // its block is the longest that the core takes
+    constexpr std::int64_t kHighestRate = HighestRateOfFrame(kLongestBlock);
     const std::int64_t rate = std::clamp<std::int64_t>(rate_hz, 0, kHighestRate);
     return std::int64_t{2} * kBlocksPerChunk * (rate * kRuleFrame / kRuleRate + 1);
 }

@@ -28,8 +28,7 @@ struct BlockPlan {
     static constexpr std::int32_t kLowestRate = kRuleRate / (2 * kRuleStep) + 1;
     /// Above the last the core's input buffer, four blocks and kExtraLen samples, has positions
     /// beyond 16 bits (error 6).
-    static constexpr std::int32_t kHighestRate =
-        HighestRateOfFrame((std::numeric_limits<std::int16_t>::max() - kExtraLen) / 4);
+    static constexpr std::int32_t kHighestRate = HighestRateOfFrame(kLongestBlock);
 
     /// The shortest sound that runs, in samples per channel, at a rate that runs: one block; of
     /// fewer samples nothing would be written (error 9).
@@ -37,5 +36,7 @@ struct BlockPlan {
     /// The longest: chunks are counted in 16 bits (error 6), and less than a chunk may follow them.
     static std::int64_t MostSamples(std::int32_t rate_hz);
 };
+
+static_assert(4 * kLongestBlock + kExtraLen <= std::numeric_limits<std::int16_t>::max());
 
 } // namespace lumora

@@ -14,6 +14,16 @@ double QuotientOfTones(int count, int numerator, int denominator)
     return std::pow(2.0, fraction + -count / kTones);
 }
 
+double QuotientOfOctaves(double octaves)
+{
+    return std::pow(2.0, -octaves);
+}
+
+double CentsOfQuotient(double Q_P)
+{
+    return -kCentsPerOctave * std::log2(Q_P);
+}
+
 double CentsMade(double Q_P, std::int32_t rate_hz)
 {
     const double block_len = FrameLength(rate_hz);

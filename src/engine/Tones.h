@@ -14,6 +14,10 @@ inline constexpr double kCentsPerOctave = 1200.0;
 /// that no fraction is in use, whatever its numerator.
 double QuotientOfTones(int count, int numerator, int denominator);
 
+/// The same of a change in octaves, and the change in cents that a quotient means.
+double QuotientOfOctaves(double octaves);
+double CentsOfQuotient(double Q_P);
+
 /// The change in cents that the engine really makes of a quotient. A block of BlockLen samples is
 /// stretched to a whole number K of samples and resampled back, so the pitch moves by exactly
 /// K / BlockLen. The rate must be one that the engine runs at.

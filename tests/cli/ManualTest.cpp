@@ -39,8 +39,10 @@ std::string HelpOf(const Names& words)
 
 std::set<std::string> AllOptions()
 {
-    return OptionsIn(HelpOf({"--help"}) + HelpOf({"help", "pitch"}) + HelpOf({"help", "declip"}) +
-                     HelpOf({"help", "info"}) + HelpOf({"help", "arr"}));
+    std::string text = HelpOf({"--help"});
+    for (const std::string& command : NamesOf(AllCommands()))
+        text += HelpOf({"help", command});
+    return OptionsIn(text);
 }
 
 /// The man page as plain text on one endless line for each paragraph.
@@ -186,7 +188,7 @@ TEST(Completion, OffersCommandsFirst)
 
 TEST(Completion, OffersExactlyTheOptionsOfTheHelp)
 {
-    for (const char* command : {"pitch", "declip", "info", "arr"}) {
+    for (const std::string& command : NamesOf(AllCommands())) {
         const std::string usage = HelpOf({"help", command});
         EXPECT_EQ(Completions({"lumora", command, "--"}), OptionsIn(usage)) << command;
     }

@@ -93,6 +93,9 @@ TEST_F(UnusualInput, TheChunkThatIsReallyInTheWayIsNamed)
     expect_named(info + FormatChunk() + data, "fmt");         // nor is the format behind one
     expect_named(FormatChunk() + Chunk("INFO", "odd") + std::string(1, '\0') + data, "INFO");
     expect_named(FormatChunk() + Chunk("    ", "abcd") + data, "\"    \"");
+    const CommandResult told = Lumora({"info", folder_ / "in.wav"});
+    EXPECT_NE(told.out.find("\n  chunk \"    \"      4 bytes at position"), std::string::npos)
+        << told.out;
 }
 
 TEST_F(UnusualInput, AnInfoChunkAheadOfTheSoundIsPassedOverByTheEngine)
