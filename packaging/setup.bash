@@ -1,10 +1,10 @@
-# Sourced by ./run and ./check, with `root` set to the project folder: what both need before they
-# can build. Everything is said on standard error; standard output belongs to the caller.
+# Sourced by ./check and what builds for ./run, with `root` set to the project folder: what both need
+# before they can build. Everything is said on standard error; standard output belongs to the caller.
 
 # Compiled objects are kept below the project folder, like all else that a build writes.
 export CCACHE_DIR=${CCACHE_DIR:-$root/.cache/ccache}
 # Without this ccache passes by whatever uses a precompiled header.
-export CCACHE_SLOPPINESS=pch_defines,time_macros
+export CCACHE_SLOPPINESS=pch_defines,time_macros${CCACHE_SLOPPINESS:+,$CCACHE_SLOPPINESS}
 
 # The script that the user called, for what is said.
 called_as=${called_as:-${0##*/}}
@@ -30,7 +30,7 @@ privilege() {
     echo sudo
 }
 
-# Installs what is missing for the purposes given (run, check). Fails where that is not possible.
+# Installs what is missing for the purposes given (run, check, deep). Fails where that is not possible.
 install_missing() {
     if ! command -v apt-get >/dev/null; then
         say "this needs Debian's apt-get; what to install is listed in" \
@@ -62,8 +62,9 @@ install_missing() {
 # Options for cmake that a script wants besides those of the preset.
 tree_options=()
 
-# Configures the tree build/PRESET if it was not set up here, with these options, and since what a
-# set-up depends on was last changed. What it has compiled already stays.
+# Configures the tree build/PRESET if it was not set up here, with at least these options, and since
+# what a set-up depends on was last changed: ./check is content with what ./check --deep has set up.
+# What has been compiled already stays.
 set_up_tree() {
     local mark=$root/build/$1/set-up.mark set_up_as="$root ${tree_options[*]-}" input fresh=1
     [[ -e $mark && $(<"$mark") == "$set_up_as"* ]] || fresh=
@@ -86,21 +87,26 @@ quietly() {
 build_tree() {
     local tree=$1
     shift
-    (cd "$root" && set_up_tree "$tree") &&
-        NINJA_STATUS=$'\1%f %t ' ninja -C "$root/build/$tree" -j 2 "$@" </dev/null 2>&1 |
-        tell_progress
+    (cd "$root" && set_up_tree "$tree") || return
+    {
+        NINJA_STATUS=$'\1%f %t ' ninja -C "$root/build/$tree" -j "$(nproc)" "$@" </dev/null 2>&1 &&
+            printf '\2\n'
+    } | tell_progress
 }
 
 # Tells how far a build of ninja is, on a terminal in a line that is drawn over, elsewhere in a line
-# at each quarter; then whatever else it said, if it failed.
+# at each quarter; then whatever else it said, if it did not end well.
 tell_progress() {
-    local line done_now all rest said='' told=0
+    local line done_now all steps=0 said='' told=0 well=
     while IFS= read -r line; do
-        if [[ $line != $'\1'* ]]; then
-            said+=$line$'\n'
-            continue
-        fi
-        read -r done_now all rest <<<"${line#?}"
+        case $line in
+        $'\1'*) ;;
+        $'\2') well=1 ;;
+        *) said+=$line$'\n' ;;
+        esac
+        [[ $line == $'\1'* ]] || continue
+        read -r done_now all _ <<<"${line#?}"
+        ((all == steps)) || steps=$all told=0 # it has found out that there is more to do
         if [[ -t 2 ]]; then
             printf '\r\e[K%s: building %s of %s' "$called_as" "$done_now" "$all" >&2
         elif ((done_now * 4 / all > told)); then
@@ -109,7 +115,7 @@ tell_progress() {
         fi
     done
     [[ -t 2 ]] && printf '\r\e[K' >&2
-    [[ $said == *'ninja: '@(build stopped|error|fatal)* ]] || return 0
+    [[ $well ]] && return
     printf '%s' "$said" >&2
     return 1
 }
