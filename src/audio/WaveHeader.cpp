@@ -67,13 +67,7 @@ private:
         WaveFormatFields format;
         read_waveformat(file_, chunk, format, form_);
         if (Failed(format.Message)) return false;
-        info_.wFormatTag = format.wFormatTag;
-        info_.nChannels = format.nChannels;
-        info_.nSamplesPerSec = format.nSamplesPerSec;
-        info_.nAvgBytesPerSec = format.nAvgBytesPerSec;
-        info_.nBlockAlign = format.nBlockAlign;
-        info_.nBitsPerSample = format.nBitsPerSample;
-        info_.cbExtra = format.cbExtra;
+        TakeFormat(format, info_);
         return true;
     }
 
@@ -129,6 +123,17 @@ std::int32_t CountedSamples(const WaveInfo& info)
 }
 
 } // namespace
+
+void TakeFormat(const WaveFormatFields& format, WaveInfo& header)
+{
+    header.wFormatTag = format.wFormatTag;
+    header.nChannels = format.nChannels;
+    header.nSamplesPerSec = format.nSamplesPerSec;
+    header.nAvgBytesPerSec = format.nAvgBytesPerSec;
+    header.nBlockAlign = format.nBlockAlign;
+    header.nBitsPerSample = format.nBitsPerSample;
+    header.cbExtra = format.cbExtra;
+}
 
 WaveInfo ReadHeader(FileNumber File, MessageForm Form)
 {

@@ -2,6 +2,7 @@
 
 #include "audio/EnginePath.h"
 #include "audio/WaveChunks.h"
+#include "audio/WaveHeader.h"
 #include "base/QuietMessages.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
@@ -15,17 +16,6 @@ namespace {
 std::int64_t Unsigned(std::int32_t size)
 {
     return static_cast<std::uint32_t>(size);
-}
-
-void TakeFormat(const WaveFormatFields& format, WaveInfo& header)
-{
-    header.wFormatTag = format.wFormatTag;
-    header.nChannels = format.nChannels;
-    header.nSamplesPerSec = format.nSamplesPerSec;
-    header.nAvgBytesPerSec = format.nAvgBytesPerSec;
-    header.nBlockAlign = format.nBlockAlign;
-    header.nBitsPerSample = format.nBitsPerSample;
-    header.cbExtra = format.cbExtra;
 }
 
 void TakeChunk(FileNumber file, const ChunkHeader& chunk, WaveInfo& header)
