@@ -40,18 +40,33 @@ bool WaveSource::HasFrames() const
     return !Failed() && plain && info_.nChannels >= 1 && info_.TotalSamples >= 1;
 }
 
+std::int64_t WaveSource::BytesPerFrame() const
+{
+    return info_.nBitsPerSample * info_.nChannels / 8;
+}
+
 std::int64_t WaveSource::PositionOf(std::int64_t frame) const
 {
-    return info_.DataStart + (frame - 1) * (info_.nBitsPerSample * info_.nChannels / 8);
+    return info_.DataStart + (frame - 1) * BytesPerFrame();
+}
+
+std::int64_t WaveSource::BytesFrom(std::int64_t frame) const
+{
+    return std::max<std::int64_t>(FileLength(file_.Number()) - PositionOf(frame) + 1, 0);
+}
+
+std::int64_t WaveSource::FramesHeld() const
+{
+    if (!HasFrames()) return 0;
+    return std::min<std::int64_t>(info_.TotalSamples, BytesFrom(1) / BytesPerFrame());
 }
 
 void WaveSource::CheckHeld(const FrameRange& range) const
 {
     if (!HasFrames()) Raise(ErrorNumber::Subscript, file_name_);
-    const std::int64_t bytes_there =
-        std::max<std::int64_t>(FileLength(file_.Number()) - PositionOf(range.first) + 1, 0);
+    const std::int64_t values_there = BytesFrom(range.first) * 8 / info_.nBitsPerSample;
     const std::int64_t promised = range.count * info_.nChannels;
-    if (promised - bytes_there * 8 / info_.nBitsPerSample > MostMissingValues(info_.nSamplesPerSec))
+    if (promised - values_there > MostMissingValues(info_.nSamplesPerSec))
         Raise(ErrorNumber::OutOfMemory, file_name_);
 }
 

@@ -35,6 +35,9 @@ public:
     /// There is something to read: at least one frame, of 8 or 16 bits.
     bool HasFrames() const;
     FrameRange AllFrames() const { return {1, info_.TotalSamples}; }
+    /// Frames of the header that lay whole in the file when it was opened; 0 where HasFrames is
+    /// not.
+    std::int64_t FramesHeld() const;
 
     /// Error 7 where the file lacks more of these frames than one chunk has of two channels (1.45
     /// seconds): a promise that is not worth the memory, or the time. To be asked before either is
@@ -54,7 +57,10 @@ public:
     bool HasShrunk() const;
 
 private:
+    std::int64_t BytesPerFrame() const;
     std::int64_t PositionOf(std::int64_t frame) const;
+    /// Bytes of the file from a frame on.
+    std::int64_t BytesFrom(std::int64_t frame) const;
     void StandAt(std::int64_t first, std::size_t values);
     void ReadHeld(std::span<std::byte> bytes);
     template <class Raw, class T>

@@ -193,6 +193,28 @@ TEST_F(WaveSourceTest, RefusesAPromiseFarBeyondTheFile)
         }
 }
 
+TEST_F(WaveSourceTest, CountsTheFramesThatAreWholeInTheFile)
+{
+    const struct {
+        FormatSpec spec;
+        std::string data;
+        std::optional<std::int64_t> stated;
+        std::int64_t frames;
+    } table[] = {
+        {{}, Shorts({1, 2, 3}), {}, 3},
+        {{}, Shorts({1, 2, 3}) + Raw({9}), 100, 3},
+        {{}, Shorts({1, 2, 3}), 4, 2}, // more than the header has
+        {{.channels = 2}, Shorts({1, 2, 3}), 100, 1},
+        {{.channels = 2, .bits = 8}, Raw({1, 2, 3, 4, 5}), 100, 2},
+        {{}, "", 100, 0},
+        {{.bits = 24}, std::string(240, 'a'), {}, 0},
+    };
+    for (const auto& row : table)
+        EXPECT_EQ(WaveSource(Write(row.spec, row.data, row.stated)).FramesHeld(), row.frames);
+    EXPECT_EQ(WaveSource(folder / "missing.wav").FramesHeld(), 0);
+    EXPECT_EQ(messages.Take().size(), 1U);
+}
+
 TEST_F(WaveSourceTest, ReadsAFileThatIsRemovedOrReplacedOnAsItWas)
 {
     const std::string name = Write({}, Shorts({1, 2, 3}));
