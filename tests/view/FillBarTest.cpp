@@ -187,6 +187,20 @@ TEST(FillBar, StaysAsItWasWithoutARange)
     EXPECT_EQ(bar.Drawing().Text, "10");
 }
 
+TEST(FillBar, MovesItsFillAtTheNextValueAfterANewRange)
+{
+    FillBarPicH bar;
+    bar.SetBorderStyle(3);
+    bar.Resize({200.0, 20.0, 10.0});
+    bar.SetValue(5);
+    bar.SetMax(20);
+    EXPECT_EQ(bar.Drawing().Fill, 100);
+    bar.SetMin(10);
+    EXPECT_EQ(bar.Drawing().Fill, 100);
+    bar.SetValue(4);
+    EXPECT_EQ(bar.Drawing().Fill, 80);
+}
+
 TEST(FillBar, WritesItsValueOnlyWhereItIsAskedTo)
 {
     FillBarH bar;
@@ -393,6 +407,20 @@ TEST(FillBar, RefusesABagWithValuesOfAnotherKindAsAWhole)
         EXPECT_EQ(Raised([&] { bar.ReadProperties(bag); }), error);
         EXPECT_EQ(bar.Properties(), before);
     }
+}
+
+TEST(FillBar, TakesTheRangeOfAProgressOverAheadOfItsValue)
+{
+    FillBarPicH bar;
+    bar.SetBorderStyle(3);
+    bar.Resize({200.0, 20.0, 10.0});
+    Names announced;
+    bar.PropertyChanged = [&](std::string_view name) { announced.emplace_back(name); };
+    bar.Follow({.Value = 3, .Min = 2, .Max = 6});
+    EXPECT_EQ(bar.Drawing().Fill, 150);
+    bar.Follow({.Value = 4, .Min = 2, .Max = 6});
+    EXPECT_EQ(bar.Drawing().Fill, 200);
+    EXPECT_EQ(announced, (Names{"Min", "Max", "Value", "Value"}));
 }
 
 TEST(FillBar, ShowsTheProgressOfARun)
