@@ -1,9 +1,8 @@
 #include "view/FillBar.h"
 
-#include "support/Raised.h"
+#include "support/EdgeNumbers.h"
 
 #include <gtest/gtest.h>
-#include <limits>
 
 namespace lumora {
 namespace {
@@ -11,9 +10,6 @@ namespace {
 using namespace test;
 using Names = std::vector<std::string>;
 using Places = std::vector<double>;
-
-constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
-constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
 
 template <FillBarKind kind> Places TicksOf(const FillBar<kind>& bar)
 {
@@ -29,68 +25,6 @@ template <FillBarKind kind> std::vector<TickSide> SidesOf(const FillBar<kind>& b
     for (const FillBarTick& tick : bar.Drawing().Ticks)
         sides.push_back(tick.Side);
     return sides;
-}
-
-template <FillBarKind kind> Names NamesInBag(const FillBar<kind>& bar)
-{
-    PropertyBag bag;
-    bar.WriteProperties(bag);
-    Names names;
-    for (const PropertyBag::Entry& entry : bag.Entries())
-        names.push_back(entry.name);
-    return names;
-}
-
-TEST(FillLength, IsTheShareOfWhatTheStyleLeaves)
-{
-    // 1.1 x 20 is 22 of the label, 1.1 x 10 is 11 of the border.
-    constexpr FillBarMeasure kMeasure = {200.0, 20.0, 10.0};
-    const struct {
-        std::int32_t style, value, min, max, fill;
-    } table[] = {
-        {0, 10, 0, 10, 178}, {1, 10, 0, 10, 178}, {2, 10, 0, 10, 189},  {3, 10, 0, 10, 200},
-        {9, 10, 0, 10, 200}, {-1, 5, 0, 10, 100}, {1, 5, 0, 10, 89},    {2, 1, 0, 10, 19},
-        {3, 0, 0, 10, 0},    {3, 20, 0, 10, 400}, {3, -5, 0, 10, -100},
-    };
-    for (const auto& row : table)
-        EXPECT_EQ(FillLength(kMeasure, row.style, row.value, row.min, row.max), row.fill)
-            << row.style << ' ' << row.value;
-}
-
-TEST(FillLength, IsRoundedToNearestHalfToEven)
-{
-    EXPECT_EQ(FillLength({5.0, 0.0, 0.0}, 3, 1, 0, 2), 2);
-    EXPECT_EQ(FillLength({7.0, 0.0, 0.0}, 3, 1, 0, 2), 4);
-    EXPECT_EQ(FillLength({100.0, 0.0, 0.0}, 3, 1, 0, 3), 33);
-    EXPECT_EQ(FillLength({100.0, 0.0, 0.0}, 3, 2, 0, 3), 67);
-}
-
-TEST(FillLength, StandsTooHighByMinWhichIsNotTakenOff)
-{
-    // A value of Min does not empty the bar, and Max more than fills it.
-    EXPECT_EQ(FillLength({100.0, 0.0, 0.0}, 3, 10, 10, 20), 100);
-    EXPECT_EQ(FillLength({100.0, 0.0, 0.0}, 3, 20, 10, 20), 200);
-}
-
-TEST(FillLength, HasNoneWithoutARange)
-{
-    EXPECT_EQ(Raised([] { FillLength({100.0, 0.0, 0.0}, 3, 1, 5, 5); }), kDivision);
-    EXPECT_EQ(Raised([] { FillLength({100.0, 0.0, 0.0}, 3, 1, kLeast, kMost); }), kOverflow);
-    EXPECT_EQ(Raised([] { FillLength({100.0, 0.0, 0.0}, 3, kMost, 0, 1); }), kOverflow);
-}
-
-TEST(TickPlaces, AreAtTheEndsOfEqualStepsOverTheSpreadOfEachStyle)
-{
-    // 100 less twice 10 of the label from 10 on; 100 less 0.3 x 20 of the border from 3 on.
-    constexpr FillBarMeasure kMeasure = {100.0, 10.0, 20.0};
-    for (const std::int32_t style : {0, 1, 3})
-        EXPECT_EQ(TickPlaces(kMeasure, style, 4), (Places{30.0, 50.0, 70.0, 90.0})) << style;
-    EXPECT_EQ(TickPlaces(kMeasure, 2, 2), (Places{50.0, 97.0}));
-    EXPECT_EQ(TickPlaces(kMeasure, 7, 2), (Places{50.0, 100.0}));
-    EXPECT_EQ(TickPlaces(kMeasure, 1, 1), Places{90.0});
-    EXPECT_TRUE(TickPlaces(kMeasure, 1, 0).empty());
-    EXPECT_TRUE(TickPlaces(kMeasure, 1, -3).empty());
-    EXPECT_EQ(TickPlaces(kMeasure, 1, 32767).size(), 32767U);
 }
 
 TEST(FillBar, StartsWithTheDefaultsOfItsKind)
@@ -177,7 +111,7 @@ TEST(FillBar, StaysAsItWasWithoutARange)
     bar.SetValue(7);
     EXPECT_EQ(bar.Drawing(), before);
     EXPECT_EQ(bar.Properties().Value, 7);
-    bar.SetMin(kLeast); // a range beyond 32 bits
+    bar.SetMin(kLeast32); // a range beyond 32 bits
     bar.SetValue(8);
     EXPECT_EQ(bar.Drawing(), before);
     bar.SetMin(0);
@@ -326,87 +260,6 @@ TEST(FillBar, AnnouncesEachPropertyByItsName)
     upward.SetMousePointer(11);
     upward.Resize({1.0, 0.0, 0.0}); // no property
     EXPECT_EQ(announced, (Names{"Picture", "RightToLeft", "MousePointer"}));
-}
-
-TEST(FillBar, KeepsThePropertiesOfItsKindInTheirOrder)
-{
-    const Names common = {"FillColor",     "BorderColor", "BackColor",     "Max",
-                          "Min",           "Value",       "TextYesNO",     "Font",
-                          "TickAlignment", "TickColor",   "TickFrequency", "HeaderColor"};
-    const auto with = [&](const Names& own) {
-        Names names = common;
-        names.insert(names.end(), own.begin(), own.end());
-        return names;
-    };
-    EXPECT_EQ(NamesInBag(FillBarH()), with({"BorderStyle", "BackStyle", "FillStyle"}));
-    EXPECT_EQ(NamesInBag(FillBarPicH()), with({"Picture", "BorderStyle"}));
-    EXPECT_EQ(NamesInBag(FillBarPicV()),
-              with({"Picture", "BorderStyle", "RightToLeft", "MousePointer"}));
-}
-
-TEST(FillBar, ComesBackFromABagAsItWentInto)
-{
-    FillBarPicV bar;
-    bar.Resize({110.0, 5.0, 10.0});
-    bar.SetMax(20);
-    bar.SetMin(-2);
-    bar.SetBackColor(4);
-    bar.SetBorderStyle(2); // 1.1 x 10 of 110
-    bar.SetBorderColor(5);
-    bar.SetFont("Serif");
-    bar.SetTickFrequency(7);
-    bar.SetTickAlignment(2); // which refuses a frequency that is set, but not one that is read
-    bar.SetTickColor(6);
-    bar.SetHeaderColor(8);
-    bar.SetFillColor(9);
-    bar.SetPicture("sky");
-    bar.SetRightToLeft(true);
-    bar.SetMousePointer(11);
-    bar.SetTextYesNO(true);
-    bar.SetValue(11);
-    PropertyBag bag;
-    bar.WriteProperties(bag);
-
-    FillBarPicV other;
-    Names announced;
-    other.PropertyChanged = [&](std::string_view name) { announced.emplace_back(name); };
-    other.Resize({110.0, 5.0, 10.0});
-    other.ReadProperties(bag);
-    EXPECT_EQ(other.Properties(), bar.Properties());
-    EXPECT_EQ(other.Drawing(), bar.Drawing());
-    EXPECT_EQ(other.Drawing().Fill, 50); // 99 x 11 / 22, rounded to even
-    EXPECT_EQ(other.Drawing().Ticks.size(), 7U);
-    EXPECT_EQ(other.Drawing().Ticks.back().Caption, "20");
-    EXPECT_EQ(announced, Names{});
-}
-
-TEST(FillBar, TakesWhatABagLacksForItsDefaults)
-{
-    PropertyBag bag;
-    bag.WriteProperty("textyesno", true);
-    FillBarPicH bar({7, "Sans"});
-    bar.SetMax(99);
-    bar.SetFont("Serif");
-    bar.ReadProperties(bag);
-    EXPECT_TRUE(bar.Properties().TextYesNO);
-    EXPECT_EQ(bar.Properties().Max, 10);
-    EXPECT_EQ(bar.Properties().Font, "Sans");
-    EXPECT_EQ(bar.Properties().BackColor, 7);
-}
-
-TEST(FillBar, RefusesABagWithValuesOfAnotherKindAsAWhole)
-{
-    const std::pair<PropertyValue, int> table[] = {
-        {std::string("4"), 13}, {true, 13}, {std::int32_t{40000}, kOverflow}};
-    for (const auto& [value, error] : table) {
-        PropertyBag bag;
-        bag.WriteProperty("Max", 50);
-        bag.WriteProperty("TickFrequency", value);
-        FillBarPicH bar;
-        const FillBarProperties before = bar.Properties();
-        EXPECT_EQ(Raised([&] { bar.ReadProperties(bag); }), error);
-        EXPECT_EQ(bar.Properties(), before);
-    }
 }
 
 TEST(FillBar, TakesTheRangeOfAProgressOverAheadOfItsValue)
